@@ -15,5 +15,6 @@ VESKPLATFORM_EXPORT std::string GetVeskDir(int kind);
 /// The organisation name of the desktop environment's settings: local 8-bit, NUL-terminated, never freed. Thread: any.
 VESKPLATFORM_EXPORT const char *GetOrganization();
 
-/// The kind of the running session; 7 and 8 are kiosk sessions. Thread: any.
+/// The kind of the running session, which the session sets as a number in the environment variable VESK_SESSION; 7 and 8
+/// are kiosk sessions, 0 stands for none or an unknown one. Thread: any.
 VESKPLATFORM_EXPORT int whatVeskSession();
