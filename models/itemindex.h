@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <veskplatform/entry.h>
+
+#include <QVarLengthArray>
+
+#include <vector>
+
+namespace VeskFM
+{
+
+class ModelItem;
+
+/// Finds the items of a model by their entry: a hash table with open addressing, since one node per row of a large
+/// directory would cost more than the row itself. An entry may have several items.
+///
+/// Items are borrowed and have to be removed before they are deleted, unless the whole index is cleared first.
+class ItemIndex
+{
+public:
+    using Items = QVarLengthArray<ModelItem *, 4>;
+
+    static uint hashOf(const Entry &entry) { return qHash(entry); }
+
+    void reserve(size_t count); ///< room for @p count items in all
+    void insert(ModelItem *item, uint hash);
+    void remove(ModelItem *item); ///< ignored when it is not in the index
+    void clear();
+    size_t size() const { return m_size; }
+
+    Items items(const Entry &entry) const { return items(entry, hashOf(entry)); } ///< in no particular order
+    Items items(const Entry &entry, uint hash) const;
+    bool contains(const ModelItem *parent, const Entry &entry, uint hash, bool countDotDot) const;
+
+private:
+    size_t slotOf(uint hash) const;
+    size_t next(size_t slot) const { return slot + 1 == m_items.size() ? 0 : slot + 1; }
+    void rehash(size_t slots);
+
+    std::vector<uint> m_hashes;       // beside m_items, so that probing stays within a cache line
+    std::vector<ModelItem *> m_items; // null where free; the length is a power of two, or 0
+    size_t m_size = 0;
+};
+
+} // namespace VeskFM
