@@ -2,22 +2,24 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include <veskfm/model.h>
+#include <veskplatform/vfs.h>
 
 #include <QApplication>
 #include <QTextStream>
 
-using namespace VeskFM;
-
 int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
-    Model model(Model::TableMode, ModelFilter::AllEntries, nullptr);
-    QObject::connect(&model, &Model::dirListed, [&model] {
+    VeskFM::Model model(VeskFM::Model::TableMode, VeskFM::ModelFilter::AllEntries, nullptr);
+    QObject::connect(&model, &VeskFM::Model::dirListed, [&model] {
         QTextStream out(stdout);
         for (int row = 0; row < model.rowCount(); ++row)
             out << model.index(row, 0).data().toString() << '\n';
         QCoreApplication::quit();
     });
-    model.rebuild(VFS::ptr()->entry(app.arguments().value(1, QStringLiteral("/"))));
+    const VeskFM::Entry directory = VeskFM::VFS::ptr()->entry(app.arguments().value(1, QStringLiteral("/")));
+    if (directory.isNull())
+        return 1;
+    model.rebuild(directory); // returns at once; the rows arrive in the event loop
     return QApplication::exec();
 }
