@@ -14,6 +14,8 @@
 namespace VeskFM
 {
 
+struct EntryBaseState;
+
 /// The two built-in columns of an entry: 0 "Name", with the icon and the tool tip, and 1 "Type".
 ///
 /// To prepare is to name the entry and to choose an icon by its kind: for a plain file "unknown", for a directory
@@ -43,22 +45,20 @@ public:
     void updatePresentation(const Entry &entry, bool refined) override;
 
 private:
-    struct State;
-    using StatePtr = QExplicitlySharedDataPointer<const State>;
+    using StatePtr = QExplicitlySharedDataPointer<const EntryBaseState>;
     struct MadeIcon;
 
     StatePtr state(quint32 *generation = nullptr) const;
-    QString displayName(const Entry &entry) const;
-    QString toolTip(const Entry &entry) const;
-    QString typeText(const Entry &entry, int role) const;
-    QIcon icon() const;
+    void replaceState(StatePtr next);
     void refine(const Entry &entry, bool presentationUpdate);
+    QString displayName(const Entry &entry) const;
+    QIcon icon() const;
 
-    StatePtr m_state; // never null; shared with other sets where nothing in it belongs to this entry alone
+    // m_state is never null; sets share it where nothing in it belongs to one entry alone.
+    StatePtr m_state;
     mutable std::unique_ptr<MadeIcon> m_madeIcon; // owner's thread; only for icons that belong to this entry alone
     quint32 m_generation = 0;                     // counts the calls that make refinements under way outdated
-    mutable std::atomic_flag m_lock =
-        ATOMIC_FLAG_INIT; // guards m_state and m_generation, for a few instructions at a time
+    mutable std::atomic_flag m_lock = ATOMIC_FLAG_INIT; // guards m_state and m_generation, held for instructions only
 };
 
 } // namespace VeskFM
