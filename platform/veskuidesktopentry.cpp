@@ -3,32 +3,57 @@
 
 #include <veskplatform/veskuidesktopentry.h>
 
+#include "smallfile.h"
+
 #include <KConfig>
 #include <KConfigGroup>
 
 #include <QFile>
+#include <QFileInfo>
+#include <QMap>
 #include <QSharedData>
 #include <QStandardPaths>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <cstring>
 
 namespace
 {
 
 constexpr qint64 largestFile = 1 << 20; // bytes; real desktop entries have a few thousand
+constexpr int mostOddities = 20;
+const char mainGroup[] = "Desktop Entry";
 
-// Tells without waiting: opening a FIFO for reading would otherwise last until somebody writes into it.
-bool isReadableDesktopFile(const QString &path)
+int unknownEscapes(const QByteArray &line)
 {
-    const int descriptor = open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
-    if (descriptor < 0)
-        return false;
-    struct stat facts = {};
-    const bool readable = fstat(descriptor, &facts) == 0 && S_ISREG(facts.st_mode) && facts.st_size <= largestFile;
-    close(descriptor);
-    return readable;
+    int count = 0;
+    for (int at = line.indexOf('\\'); at >= 0 && at + 1 < line.size(); at = line.indexOf('\\', at + 2))
+        count += strchr("sntr\\;,x", line.at(at + 1)) ? 0 : 1;
+    return count;
+}
+
+// The parser warns of each line and each escape that it does not know, which a file that is no desktop entry at all
+// may have a hundred thousand of.
+bool looksLikeDesktopEntry(const QByteArray &content)
+{
+    int oddities = 0;
+    for (int start = 0; start < content.size() && oddities <= mostOddities;) {
+        int end = content.indexOf('\n', start);
+        if (end < 0)
+            end = content.size();
+        const QByteArray line = QByteArray::fromRawData(content.constData() + start, end - start).trimmed();
+        if (line.startsWith('['))
+            oddities += line.endsWith(']') ? 0 : 1;
+        else if (!line.isEmpty() && !line.startsWith('#'))
+            oddities += line.indexOf('=') > 0 ? unknownEscapes(line) : 1;
+        start = end + 1;
+    }
+    return oddities <= mostOddities;
+}
+
+bool isRegularDesktopEntry(const QString &path)
+{
+    QByteArray content;
+    return readSmallFile(QFile::encodeName(path), largestFile, &content) && looksLikeDesktopEntry(content);
 }
 
 } // namespace
@@ -36,10 +61,54 @@ bool isReadableDesktopFile(const QString &path)
 class VeskUIDesktopEntryData : public QSharedData
 {
 public:
+    void read();
+    void copyValues(const KConfigGroup &group);
+    bool isShownHere() const;
+
     QString filePath;
-    QMap<QString, QString> values; // of the main group, localized, escapes resolved
+    QMap<QString, QString> values; // of the main group: localized, escapes resolved
+    QStringList onlyShowIn;
+    QStringList notShowIn;
     bool valid = false;
+    bool noDisplay = false;
+    bool hidden = false;
+    bool terminal = false;
 };
+
+void VeskUIDesktopEntryData::read()
+{
+    if (filePath.isEmpty() || !isRegularDesktopEntry(filePath))
+        return;
+    // Just this file: no global settings below it and no look-up of relative names among the configuration.
+    const KConfig file(QFileInfo(filePath).absoluteFilePath(), KConfig::SimpleConfig);
+    if (file.hasGroup(mainGroup))
+        copyValues(file.group(mainGroup));
+}
+
+void VeskUIDesktopEntryData::copyValues(const KConfigGroup &group)
+{
+    valid = true;
+    values = group.entryMap();
+    onlyShowIn = group.readXdgListEntry("OnlyShowIn");
+    notShowIn = group.readXdgListEntry("NotShowIn");
+    noDisplay = group.readEntry("NoDisplay", false);
+    hidden = group.readEntry("Hidden", false);
+    terminal = group.readEntry("Terminal", false);
+}
+
+// The first desktop of XDG_CURRENT_DESKTOP that the entry names decides.
+bool VeskUIDesktopEntryData::isShownHere() const
+{
+    const QStringList desktops =
+        qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(QLatin1Char(':'), Qt::SkipEmptyParts);
+    for (const QString &desktop : desktops) {
+        if (onlyShowIn.contains(desktop))
+            return true;
+        if (notShowIn.contains(desktop))
+            return false;
+    }
+    return onlyShowIn.isEmpty();
+}
 
 VeskUIDesktopEntry::VeskUIDesktopEntry()
     : m_data(new VeskUIDesktopEntryData)
@@ -59,15 +128,11 @@ VeskUIDesktopEntry::~VeskUIDesktopEntry() = default;
 
 bool VeskUIDesktopEntry::load()
 {
-    m_data->values.clear();
-    m_data->valid = false;
-    if (!isReadableDesktopFile(m_data->filePath))
-        return false;
-    const KConfig file(m_data->filePath, KConfig::SimpleConfig);
-    m_data->valid = file.hasGroup("Desktop Entry");
-    if (m_data->valid)
-        m_data->values = file.group("Desktop Entry").entryMap();
-    return m_data->valid;
+    QSharedDataPointer<VeskUIDesktopEntryData> fresh(new VeskUIDesktopEntryData);
+    fresh->filePath = m_data->filePath;
+    fresh->read();
+    m_data.swap(fresh);
+    return isValid();
 }
 
 bool VeskUIDesktopEntry::isValid() const
@@ -77,17 +142,19 @@ bool VeskUIDesktopEntry::isValid() const
 
 bool VeskUIDesktopEntry::isDisplayable() const
 {
-    return isValid();
+    return m_data->valid && !m_data->noDisplay && !m_data->hidden && m_data->isShownHere();
 }
 
 bool VeskUIDesktopEntry::isSuitable() const
 {
-    return isValid();
+    const QString program = getTryExec();
+    return m_data->valid && m_data->isShownHere()
+        && (program.isEmpty() || !QStandardPaths::findExecutable(program).isEmpty());
 }
 
 bool VeskUIDesktopEntry::getTerminal() const
 {
-    return getValue(QStringLiteral("Terminal")) == QLatin1String("true");
+    return m_data->terminal;
 }
 
 QString VeskUIDesktopEntry::getFilePath() const
