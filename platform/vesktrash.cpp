@@ -245,7 +245,8 @@ std::string VeskTrash::registerFile(const std::string &path)
     const QByteArray top = resolved(topDir());
     if (real.isEmpty() || isSameOrBelow(real, top) || isSameOrBelow(top, real)) // neither trashed again nor into itself
         return {};
-    const QByteArray info = TrashInfo{item, QDateTime::currentSecsSinceEpoch()}.toText();
+    const QByteArray origin = item.contains("/../") ? real : item;
+    const QByteArray info = TrashInfo{origin, QDateTime::currentSecsSinceEpoch()}.toText();
     for (int attempt = 0; attempt < triedNames; ++attempt) {
         const QByteArray name = candidateName(nameOf(item), attempt);
         const Reservation outcome = reserve(name, info);
