@@ -75,6 +75,7 @@ public:
     QVariant propertyValueData(const Entry &entry, int property, int role, const PropertyEnumerator *enumerator);
 
 private:
+    friend class HolderIndex;
     friend class HolderPool;
     friend class PropertyEnumerator;
     Q_DISABLE_COPY(PropertyDataHolder)
@@ -83,6 +84,7 @@ private:
     static constexpr int inlineSetCount = 2; // the built-in set and one plug-in: the usual case needs no allocation
 
     EntryPropertySet **sets() { return m_setCount > inlineSetCount ? m_heapSets : m_inlineSets; }
+    EntryPropertySet *setAt(int propertySet, const PropertyEnumerator *enumerator); // made when missing; may be null
     static void refineSet(EntryPropertySet *set, const Entry &entry);
     QVariant decorated(const QVariant &icon, const Entry &entry, const PropertyEnumerator *enumerator);
 

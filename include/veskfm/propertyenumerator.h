@@ -118,7 +118,6 @@ private:
     friend class PropertyDataHolder;
 
     static void abandonRunningRequests(const PropertyDataHolder *holder);
-    void giveReferenceBack(const EntryPropertyRequest &request);
 
     static QList<QPointer<PropertyEnumerator>> m_enumerators;
 
