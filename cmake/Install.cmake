@@ -20,7 +20,13 @@ if(NOT VESKFM_VENDOR_DOMAIN_PREFIX STREQUAL "org.tessaro")
 endif()
 configure_file(${PROJECT_SOURCE_DIR}/cmake/veskfmcore.pc.in ${PROJECT_BINARY_DIR}/veskfmcore.pc @ONLY)
 
+# Below a prefix of its own the pieces must find each other; packagers for a system set CMAKE_SKIP_INSTALL_RPATH.
+set_target_properties(veskfmcore veskplatform PROPERTIES INSTALL_RPATH "$ORIGIN")
 install(TARGETS veskfmcore veskplatform EXPORT VeskFMCoreTargets)
+if(TARGET vesk-browser)
+  file(RELATIVE_PATH libdir_from_bin ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_FULL_LIBDIR})
+  set_target_properties(vesk-browser PROPERTIES INSTALL_RPATH "$ORIGIN/${libdir_from_bin}")
+endif()
 install(EXPORT VeskFMCoreTargets NAMESPACE VeskFM:: DESTINATION ${package_dir})
 install(FILES ${PROJECT_BINARY_DIR}/VeskFMCoreConfig.cmake ${PROJECT_BINARY_DIR}/VeskFMCoreConfigVersion.cmake
         DESTINATION ${package_dir})

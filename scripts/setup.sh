@@ -18,7 +18,7 @@ install_missing_packages() {
     [ "$(id -u)" -eq 0 ] || as_root=(sudo "${as_root[@]}")
     echo "Installing Debian packages: ${missing[*]}" >&2
     "${as_root[@]}" apt-get -qq update >&2
-    "${as_root[@]}" apt-get -qq install -y --no-install-recommends "${missing[@]}" >&2
+    "${as_root[@]}" apt-get -qq install -y --no-install-recommends "${missing[@]}" >/dev/null
 }
 
 # build PRESET [TARGET...]: build/PRESET becomes up to date
