@@ -3,6 +3,10 @@
 
 #include <veskplatform/vfs.h>
 
+#include "localvfs.h"
+
+#include <QCoreApplication>
+
 #include <atomic>
 
 namespace VeskFM
@@ -11,7 +15,18 @@ namespace VeskFM
 namespace
 {
 std::atomic<VFS *> installedVfs{nullptr};
+
+VFS *localVfs()
+{
+    static LocalVfs *const vfs = [] {
+        auto *const made = new LocalVfs; // never deleted: entries and threads may use it until the process ends
+        if (const QCoreApplication *const application = QCoreApplication::instance())
+            made->moveToThread(application->thread());
+        return made;
+    }();
+    return vfs;
 }
+} // namespace
 
 VFS::VFS(QObject *parent)
     : QObject(parent)
@@ -22,7 +37,8 @@ VFS::~VFS() = default;
 
 VFS *VFS::ptr()
 {
-    return installedVfs.load(std::memory_order_acquire);
+    VFS *const installed = installedVfs.load(std::memory_order_acquire);
+    return installed ? installed : localVfs();
 }
 
 VFS *VFS::install(VFS *vfs)

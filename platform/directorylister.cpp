@@ -1,0 +1,313 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "directorylister.h"
+
+#include "listingorder.h"
+#include "localentrydata.h"
+#include "pathcodec.h"
+
+#include <QAtomicInt>
+#include <QThread>
+#include <QVarLengthArray>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <condition_variable>
+#include <cstring>
+#include <deque>
+#include <memory>
+#include <mutex>
+#include <system_error>
+#include <thread>
+#include <vector>
+
+namespace VeskFM
+{
+
+namespace
+{
+constexpr int namesPerChunk = 1024; // below it a second thread costs more than it saves
+constexpr int mostThreads = 4;      // the kernel's directory locks leave nothing to more
+
+struct DirCloser
+{
+    void operator()(DIR *dir) const { closedir(dir); }
+};
+using DirHandle = std::unique_ptr<DIR, DirCloser>;
+
+DirHandle openDirectory(const QString &path)
+{
+    const QByteArray bytes = PathCodec::encode(path);
+    const int fd = bytes.isEmpty() ? -1 : open(bytes.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0) {
+        if (bytes.isEmpty())
+            errno = ENOENT;
+        return nullptr;
+    }
+    DIR *const dir = fdopendir(fd);
+    if (!dir)
+        close(fd);
+    return DirHandle(dir);
+}
+
+bool isDotOrDotDot(const char *name)
+{
+    return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
+}
+
+struct FoundName
+{
+    quint32 offset;
+    quint16 size;
+    quint8 kind; // as readdir() has it
+};
+
+/// Some names of a directory, in one block.
+struct NameChunk
+{
+    std::vector<char> text; // each with its NUL
+    std::vector<FoundName> names;
+
+    NameChunk()
+    {
+        names.reserve(namesPerChunk);
+        text.reserve(size_t(namesPerChunk) * 24);
+    }
+    void add(const dirent *found)
+    {
+        const size_t size = strlen(found->d_name);
+        names.push_back({quint32(text.size()), quint16(size), found->d_type});
+        text.insert(text.end(), found->d_name, found->d_name + size + 1);
+    }
+};
+
+/// Makes rows of names: one system call each, two for links.
+class RowMaker
+{
+public:
+    RowMaker(int fd, const QString &directory, VFS::EntryChildFilters filters)
+        : m_fd(fd)
+        , m_prefix(directory.endsWith(QLatin1Char('/')) ? directory : directory + QLatin1Char('/'))
+        , m_unportable(PathCodec::isPortable(directory) ? 0 : LocalFacts::Unportable)
+        , m_containersOnly(filters.testFlag(VFS::ContainersOnly))
+        , m_archivesAsFiles(filters.testFlag(VFS::ArchivesAsFiles))
+    {
+    }
+
+    /// Null for what is gone or not wanted.
+    LocalEntryData *make(const char *name, const FoundName &found) const
+    {
+        if (m_containersOnly && found.kind != DT_DIR && found.kind != DT_LNK && found.kind != DT_UNKNOWN)
+            return nullptr;
+        struct stat own;
+        struct stat target;
+        if (fstatat(m_fd, name, &own, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT) != 0) {
+            if (errno != EACCES)
+                return nullptr;
+            own = {}; // the directory lets its names be read and nothing else: what readdir() says is all we get
+            own.st_mode = DTTOIF(found.kind);
+        }
+        const bool link = S_ISLNK(own.st_mode);
+        const bool reached = link && fstatat(m_fd, name, &target, 0) == 0;
+        LocalFacts facts = LocalFacts::of(own, reached ? &target : nullptr, name, found.size, m_archivesAsFiles);
+        if (m_containersOnly && facts.kind != Entry::Dir && facts.kind != Entry::DirLink)
+            return nullptr;
+        int nameSize = 0;
+        const QString path = pathOf(name, found.size, &nameSize, &facts);
+        if (!link)
+            return new LocalEntryData(path, nameSize, facts);
+        char text[PATH_MAX];
+        const ssize_t size = readlinkat(m_fd, name, text, sizeof text);
+        return new LocalLinkData(path, nameSize, facts,
+                                 PathCodec::decode(QByteArray(text, int(qMax<ssize_t>(size, 0)))));
+    }
+
+private:
+    QString pathOf(const char *name, int size, int *nameSize, LocalFacts *facts) const
+    {
+        QVarLengthArray<QChar, 512> units(size * PathCodec::unitsPerByte); // longer than that on foreign disks only
+        bool escaped = false;
+        *nameSize = PathCodec::decode(name, size, units.data(), &escaped);
+        QString path(m_prefix.size() + *nameSize, Qt::Uninitialized);
+        std::copy(m_prefix.cbegin(), m_prefix.cend(), path.data());
+        std::copy_n(units.cbegin(), *nameSize, path.data() + m_prefix.size());
+        facts->flags |= m_unportable;
+        const bool ascii = *nameSize == size
+            && std::all_of(units.begin(), units.begin() + size, [](QChar unit) { return unit.unicode() < 0x80; });
+        if (!ascii && (escaped || !PathCodec::isPortable(path)))
+            facts->flags |= LocalFacts::Unportable;
+        return path;
+    }
+
+    const int m_fd;
+    const QString m_prefix;
+    const quint16 m_unportable;
+    const bool m_containersOnly;
+    const bool m_archivesAsFiles;
+};
+
+/// One listing under way. The calling thread reads names; rows are made of them by helpers meanwhile and by itself
+/// afterwards; each sorts what it made.
+class Listing
+{
+public:
+    Listing(DIR *dir, const RowMaker &maker, const QAtomicInt *cancel)
+        : m_dir(dir)
+        , m_maker(maker)
+        , m_cancel(cancel)
+    {
+    }
+
+    EntryList run()
+    {
+        // Reserved, so that the list of a thread stays where it is while others are added.
+        m_rows.reserve(mostThreads);
+        std::vector<std::thread> helpers;
+        const int mostHelpers = qBound(0, QThread::idealThreadCount() - 1, mostThreads - 1);
+        while (readChunk()) {
+            if (int(helpers.size()) < mostHelpers && m_rows.size() == helpers.size())
+                startHelper(&helpers);
+        }
+        finishReading();
+        m_rows.emplace_back();
+        makeRows(&m_rows.back());
+        for (std::thread &helper : helpers)
+            helper.join();
+        return merged();
+    }
+
+private:
+    using Rows = std::vector<ListingRow>;
+
+    bool isCancelled() const { return m_cancel && m_cancel->loadRelaxed() != 0; }
+
+    /// False when the directory holds no more than was read.
+    bool readChunk()
+    {
+        NameChunk chunk;
+        const dirent *found = nullptr;
+        while (chunk.names.size() < size_t(namesPerChunk) && !isCancelled() && (found = readdir(m_dir))) {
+            if (!isDotOrDotDot(found->d_name))
+                chunk.add(found);
+        }
+        const bool more = found;
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_chunks.push_back(std::move(chunk));
+        m_changed.notify_one();
+        return more;
+    }
+
+    void finishReading()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_allRead = true;
+        m_changed.notify_all();
+    }
+
+    void startHelper(std::vector<std::thread> *helpers)
+    {
+        m_rows.emplace_back();
+        try {
+            helpers->emplace_back(&Listing::makeRows, this, &m_rows.back());
+        } catch (const std::system_error &) {
+            // No more threads to be had: m_rows now has one list more than there are helpers, which ends the attempts.
+        }
+    }
+
+    bool takeChunk(NameChunk *chunk)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait(lock, [this] { return !m_chunks.empty() || m_allRead; });
+        if (m_chunks.empty())
+            return false;
+        *chunk = std::move(m_chunks.front());
+        m_chunks.pop_front();
+        return true;
+    }
+
+    void makeRows(Rows *rows)
+    {
+        NameChunk chunk;
+        while (takeChunk(&chunk)) {
+            for (const FoundName &found : chunk.names) {
+                if (isCancelled())
+                    break;
+                if (LocalEntryData *const data = m_maker.make(chunk.text.data() + found.offset, found))
+                    rows->emplace_back(data);
+            }
+        }
+        std::sort(rows->rbegin(), rows->rend());
+    }
+
+    /// The sorted lists as one, last row first.
+    EntryList merged()
+    {
+        size_t total = 0;
+        for (const Rows &rows : m_rows)
+            total += rows.size();
+        EntryList entries;
+        entries.reserve(int(total));
+        std::vector<const ListingRow *> heads;
+        for (const Rows &rows : m_rows)
+            heads.push_back(rows.data());
+        for (; total > 0; --total) {
+            const ListingRow **next = nullptr;
+            for (size_t i = 0; i < m_rows.size(); ++i) {
+                const bool left = heads[i] != m_rows[i].data() + m_rows[i].size();
+                if (left && (!next || **next < *heads[i]))
+                    next = &heads[i];
+            }
+            entries.append(Entry((*next)->data));
+            ++*next;
+        }
+        return entries;
+    }
+
+    DIR *const m_dir;
+    const RowMaker &m_maker;
+    const QAtomicInt *const m_cancel;
+    std::vector<Rows> m_rows; // one list for each thread that makes rows
+    std::mutex m_mutex;       // guards what follows
+    std::condition_variable m_changed;
+    std::deque<NameChunk> m_chunks;
+    bool m_allRead = false;
+};
+} // namespace
+
+DirectoryListing listDirectory(const QString &path, VFS::EntryChildFilters filters, const QAtomicInt *cancel)
+{
+    DirectoryListing result;
+    const DirHandle dir = openDirectory(path);
+    if (!dir) {
+        result.error = errno;
+        return result;
+    }
+    const RowMaker maker(dirfd(dir.get()), path, filters);
+    result.entries = Listing(dir.get(), maker, cancel).run();
+    return result;
+}
+
+bool hasSubdirectory(const QString &path)
+{
+    const DirHandle dir = openDirectory(path);
+    if (!dir)
+        return false;
+    while (const dirent *const found = readdir(dir.get())) {
+        if (isDotOrDotDot(found->d_name))
+            continue;
+        if (found->d_type == DT_DIR)
+            return true;
+        struct stat node;
+        if ((found->d_type == DT_LNK || found->d_type == DT_UNKNOWN)
+            && fstatat(dirfd(dir.get()), found->d_name, &node, AT_NO_AUTOMOUNT) == 0 && S_ISDIR(node.st_mode))
+            return true;
+    }
+    return false;
+}
+
+} // namespace VeskFM

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "filesystemkinds.h"
+
+#include "pathcodec.h"
+
+#include <QFile>
+
+#include <linux/magic.h>
+#include <sys/stat.h>
+#include <sys/statfs.h>
+#include <sys/sysmacros.h>
+
+#include <algorithm>
+
+namespace VeskFM
+{
+
+namespace
+{
+
+/// The type of the mount with the device @p device, from the table of the kernel; empty if it is not there.
+QByteArray mountType(dev_t device)
+{
+    QFile table(QStringLiteral("/proc/self/mountinfo"));
+    if (!table.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray id = QByteArray::number(major(device)) + ':' + QByteArray::number(minor(device));
+    const QList<QByteArray> lines = table.readAll().split('\n');
+    for (const QByteArray &line : lines) {
+        const QList<QByteArray> fields = line.split(' ');
+        const int separator = fields.indexOf("-"); // the number of fields before it varies
+        if (separator > 2 && separator + 1 < fields.size() && fields.at(2) == id)
+            return fields.at(separator + 1);
+    }
+    return {};
+}
+
+bool isNetworkFuse(const QByteArray &type)
+{
+    static const char *const known[] = {"fuse.sshfs",      "fuse.curlftpfs", "fuse.davfs2",
+                                        "fuse.gvfsd-fuse", "fuse.kio-fuse",  "fuse.rclone",
+                                        "fuse.s3fs",       "fuse.glusterfs", "fuse.smbnetfs"};
+    return std::any_of(std::begin(known), std::end(known), [&type](const char *name) { return type == name; });
+}
+
+bool findOutNetwork(const QByteArray &path, dev_t device)
+{
+    struct statfs facts;
+    if (statfs(path.constData(), &facts) != 0)
+        return false;
+    switch (uint(facts.f_type)) {
+    case NFS_SUPER_MAGIC:
+    case SMB_SUPER_MAGIC:
+    case CIFS_SUPER_MAGIC:
+    case SMB2_SUPER_MAGIC:
+    case NCP_SUPER_MAGIC:
+    case CODA_SUPER_MAGIC:
+    case AFS_SUPER_MAGIC:
+    case AFS_FS_MAGIC:
+    case CEPH_SUPER_MAGIC:
+    case V9FS_MAGIC:
+        return true;
+    case FUSE_SUPER_MAGIC:
+        return isNetworkFuse(mountType(device));
+    default:
+        return false;
+    }
+}
+} // namespace
+
+bool FileSystemKinds::isNetwork(const QString &path) const
+{
+    const QByteArray bytes = PathCodec::encode(path);
+    struct stat facts;
+    if (bytes.isEmpty() || stat(bytes.constData(), &facts) != 0)
+        return false;
+    {
+        const QMutexLocker lock(&m_mutex);
+        const auto known = m_network.constFind(facts.st_dev);
+        if (known != m_network.constEnd())
+            return *known;
+    }
+    const bool network = findOutNetwork(bytes, facts.st_dev); // without the lock: a dead server blocks only who asks
+    const QMutexLocker lock(&m_mutex);
+    m_network.insert(facts.st_dev, network);
+    return network;
+}
+
+bool FileSystemKinds::isSame(const QString &path, const QString &other) const
+{
+    struct stat a;
+    struct stat b;
+    return stat(PathCodec::encode(path).constData(), &a) == 0 && stat(PathCodec::encode(other).constData(), &b) == 0
+        && a.st_dev == b.st_dev;
+}
+
+} // namespace VeskFM

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QHash>
+#include <QMutex>
+
+#include <sys/types.h>
+
+namespace VeskFM
+{
+
+/// Knows which directories lie on the disks of other machines. Looks once at each mounted file system.
+///
+/// Thread: any; may block on a server that does not answer, so do not ask on the GUI thread for such places.
+class FileSystemKinds
+{
+public:
+    /// False where nothing can be found out.
+    bool isNetwork(const QString &path) const;
+    /// Whether both lie in the same mounted file system.
+    bool isSame(const QString &path, const QString &other) const;
+
+private:
+    mutable QMutex m_mutex;
+    mutable QHash<dev_t, bool> m_network; // by device
+};
+
+} // namespace VeskFM

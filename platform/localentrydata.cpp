@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "localentrydata.h"
+
+#include "pathcodec.h"
+
+#include <veskplatform/standardpaths.h>
+
+#include <QDir>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstring>
+#include <strings.h>
+#include <vector>
+
+namespace VeskFM
+{
+
+namespace
+{
+/// Who the process is to permission bits; looked up once, since a row must not cost a system call for it.
+struct Credentials
+{
+    uid_t user = geteuid();
+    std::vector<gid_t> groups;
+
+    Credentials()
+    {
+        const int count = getgroups(0, nullptr);
+        groups.resize(size_t(qMax(count, 0)));
+        groups.resize(size_t(qMax(getgroups(int(groups.size()), groups.data()), 0)));
+        groups.push_back(getegid());
+    }
+
+    bool mayExecute(const struct stat &facts) const
+    {
+        if (user == 0)
+            return facts.st_mode & (S_IXUSR | S_IXGRP | S_IXOTH);
+        if (facts.st_uid == user)
+            return facts.st_mode & S_IXUSR;
+        if (std::find(groups.begin(), groups.end(), facts.st_gid) != groups.end())
+            return facts.st_mode & S_IXGRP;
+        return facts.st_mode & S_IXOTH;
+    }
+};
+
+bool isArchiveName(const char *name, int size)
+{
+    static const char *const suffixes[] = {"zip", "7z",  "rar",  "tar", "tgz",  "tbz", "tbz2",
+                                           "txz", "tlz", "tzst", "taz", "cpio", "xar"};
+    const char *const dot = static_cast<const char *>(memrchr(name, '.', size_t(size)));
+    if (!dot || dot == name)
+        return false;
+    const char *const suffix = dot + 1;
+    const int suffixSize = size - int(suffix - name);
+    if (suffixSize < 1 || suffixSize > 5)
+        return false;
+    const auto matches = [=](const char *known) {
+        return strncasecmp(suffix, known, size_t(suffixSize)) == 0 && known[suffixSize] == '\0';
+    };
+    if (std::any_of(std::begin(suffixes), std::end(suffixes), matches))
+        return true;
+    return dot - name > 4 && strncasecmp(dot - 4, ".tar", 4) == 0; // whatever packed the tar archive
+}
+} // namespace
+
+LocalFacts LocalFacts::of(const struct stat &own, const struct stat *target, const char *name, int nameSize,
+                          bool archivesAsFiles)
+{
+    static const Credentials credentials;
+    const bool link = S_ISLNK(own.st_mode);
+    const struct stat &node = link && target ? *target : own;
+    LocalFacts facts;
+    facts.flags = Exists;
+    if (link)
+        facts.flags |= SymLink;
+    if (nameSize > 0 && name[0] == '.')
+        facts.flags |= Hidden;
+    if (S_ISDIR(node.st_mode)) {
+        facts.kind = link ? Entry::DirLink : Entry::Dir;
+    } else {
+        facts.size = node.st_size;
+        const bool archive = !archivesAsFiles && S_ISREG(node.st_mode) && isArchiveName(name, nameSize);
+        facts.kind = archive ? (link ? Entry::ArchiveLink : Entry::Archive) : (link ? Entry::FileLink : Entry::File);
+    }
+    if (!S_ISLNK(node.st_mode) && credentials.mayExecute(node))
+        facts.flags |= Executable;
+    return facts;
+}
+
+LocalFacts LocalFacts::of(const QByteArray &path, bool archivesAsFiles)
+{
+    struct stat own;
+    struct stat target;
+    if (path.isEmpty() || lstat(path.constData(), &own) != 0)
+        return {};
+    const bool reached = S_ISLNK(own.st_mode) && stat(path.constData(), &target) == 0;
+    const int nameStart = path.lastIndexOf('/') + 1;
+    return of(own, reached ? &target : nullptr, path.constData() + nameStart, path.size() - nameStart, archivesAsFiles);
+}
+
+LocalEntryData::LocalEntryData(const QString &path, const LocalFacts &facts)
+    : LocalEntryData(path, path.size() - 1 - path.lastIndexOf(QLatin1Char('/')), facts)
+{
+}
+
+LocalEntryData::LocalEntryData(const QString &path, int nameSize, const LocalFacts &facts)
+    : m_kind(facts.kind)
+    , m_nameSize(quint16(nameSize))
+    , m_path(path)
+    , m_size(facts.size)
+    , m_flags(facts.flags)
+{
+}
+
+QString LocalEntryData::path() const
+{
+    return m_path;
+}
+
+int LocalEntryData::type() const
+{
+    return m_kind;
+}
+
+bool LocalEntryData::is(EntryTrait trait) const
+{
+    switch (trait) {
+    case EntryTrait::Exists:
+        return m_flags & LocalFacts::Exists;
+    case EntryTrait::File:
+        return !is(EntryTrait::Dir);
+    case EntryTrait::Dir:
+        return m_kind == Entry::Dir || m_kind == Entry::DirLink;
+    case EntryTrait::SymLink:
+        return m_flags & LocalFacts::SymLink;
+    case EntryTrait::Hidden:
+        return m_flags & LocalFacts::Hidden;
+    case EntryTrait::Executable:
+        return m_flags & LocalFacts::Executable;
+    case EntryTrait::FSRoot:
+        return m_nameSize == 0;
+    case EntryTrait::HomeDirPlace:
+        return is(EntryTrait::Dir) && m_path == localHomePath();
+    case EntryTrait::TrashDirPlace:
+        return is(EntryTrait::Dir) && m_path == localTrashPath();
+    default:
+        return false;
+    }
+}
+
+QString LocalEntryData::localPath() const
+{
+    return m_flags & LocalFacts::Unportable ? QString() : m_path;
+}
+
+QString LocalEntryData::fileName() const
+{
+    return m_path.right(m_nameSize);
+}
+
+QString LocalEntryData::lastPathSection() const
+{
+    return m_nameSize == 0 ? m_path : fileName();
+}
+
+qint64 LocalEntryData::fileSize() const
+{
+    return m_size;
+}
+
+QStringView LocalEntryData::name() const
+{
+    return QStringView(m_path).right(m_nameSize);
+}
+
+LocalLinkData::LocalLinkData(const QString &path, int nameSize, const LocalFacts &facts, const QString &target)
+    : LocalEntryData(path, nameSize, facts)
+    , m_target(target.startsWith(QLatin1Char('/')) ? target : path.left(path.size() - nameSize) + target)
+{
+}
+
+QString LocalLinkData::symLinkTarget() const
+{
+    return m_target;
+}
+
+Entry makeLocalEntry(const QString &path, bool archivesAsFiles, bool evenIfMissing)
+{
+    const QByteArray bytes = PathCodec::encode(path);
+    LocalFacts facts = LocalFacts::of(bytes, archivesAsFiles);
+    if (!(facts.flags & LocalFacts::Exists) && !evenIfMissing)
+        return {};
+    if (!PathCodec::isPortable(path))
+        facts.flags |= LocalFacts::Unportable;
+    if (!(facts.flags & LocalFacts::SymLink))
+        return Entry(new LocalEntryData(path, facts));
+    char target[PATH_MAX];
+    const ssize_t size = readlink(bytes.constData(), target, sizeof target);
+    return Entry(new LocalLinkData(path, path.size() - 1 - path.lastIndexOf(QLatin1Char('/')), facts,
+                                   PathCodec::decode(QByteArray(target, int(qMax<ssize_t>(size, 0))))));
+}
+
+const QString &localHomePath()
+{
+    static const QString path = [] {
+        const QByteArray home = qgetenv("HOME");
+        return home.startsWith('/') ? QDir::cleanPath(PathCodec::decode(home)) : QDir::homePath();
+    }();
+    return path;
+}
+
+const QString &localTrashPath()
+{
+    static const QString path = QDir::cleanPath(StandardPaths::trashDirPath());
+    return path;
+}
+
+} // namespace VeskFM

@@ -1,0 +1,277 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "localvfs.h"
+
+#include "deferredentrydata.h"
+#include "directorylister.h"
+#include "localentrydata.h"
+#include "localentrywatcher.h"
+#include "localurls.h"
+#include "pathcodec.h"
+
+#include <QDir>
+
+#include <sys/stat.h>
+
+#include <cstdlib>
+#include <memory>
+
+namespace VeskFM
+{
+
+namespace
+{
+struct FreeDeleter
+{
+    void operator()(char *text) const { free(text); }
+};
+
+bool isLocal(const Entry &entry)
+{
+    return entry.path().startsWith(QLatin1Char('/'));
+}
+
+/// Resolves everything up to the last ".." as the system does: behind a link, ".." is not what stands before it.
+QByteArray withoutDotDot(const QByteArray &path)
+{
+    int end = path.endsWith("/..") ? path.size() : path.lastIndexOf("/../") + 3;
+    if (end < 3)
+        return path;
+    const std::unique_ptr<char, FreeDeleter> resolved(realpath(path.left(end).constData(), nullptr));
+    return resolved ? QByteArray(resolved.get()) + path.mid(end) : QByteArray();
+}
+} // namespace
+
+LocalVfs::LocalVfs(QObject *parent)
+    : VFS(parent)
+    , m_home(makeLocalEntry(localHomePath(), false, true))
+    , m_watcher(new LocalEntryWatcher(this))
+{
+}
+
+LocalVfs::~LocalVfs()
+{
+    delete m_watcher; // its threads still use the rest
+}
+
+QString LocalVfs::diskPath(const Entry &entry)
+{
+    return isLocal(entry) ? entry.path() : entry.localPath();
+}
+
+QString LocalVfs::canonicalPath(const QString &path)
+{
+    const QByteArray bytes = withoutDotDot(PathCodec::encode(path));
+    return bytes.startsWith('/') ? QDir::cleanPath(PathCodec::decode(bytes)) : QString();
+}
+
+Entry LocalVfs::entry(const QString &path) const
+{
+    if (LocalPlaces::isPlacePath(path))
+        return m_places.entry(path);
+    const QString canonical = canonicalPath(path);
+    return canonical.isEmpty() ? Entry() : makeLocalEntry(canonical);
+}
+
+Entry LocalVfs::rootEntry() const
+{
+    return m_places.computer();
+}
+
+Entry LocalVfs::homeEntry() const
+{
+    return m_home;
+}
+
+Entry LocalVfs::favoritesEntry() const
+{
+    return m_places.favorites();
+}
+
+Entry LocalVfs::placesEntry() const
+{
+    return m_places.places();
+}
+
+Entry LocalVfs::storageDevicesEntry() const
+{
+    return m_places.storageDevices();
+}
+
+Entry LocalVfs::networkEntry() const
+{
+    return m_places.network();
+}
+
+Entry LocalVfs::networkResourcesEntry() const
+{
+    return m_places.networkResources();
+}
+
+Entry LocalVfs::parent(const Entry &entry) const
+{
+    if (!isLocal(entry))
+        return m_places.parent(entry);
+    const QString directory = parentDirPath(entry.path());
+    return directory.isEmpty() ? m_places.computer() : Entry(new DeferredEntryData(directory));
+}
+
+Entry LocalVfs::sibling(const Entry &entry, const QString &name) const
+{
+    const QString directory = parentDirPath(entry.path());
+    if (!isLocal(entry) || directory.isEmpty() || name.isEmpty() || name.contains(QLatin1Char('/'))
+        || name == QLatin1String(".") || name == QLatin1String(".."))
+        return {};
+    return this->entry(directory + QLatin1Char('/') + name);
+}
+
+EntryList LocalVfs::childs(const Entry &entry, EntryChildFilters filters, QAtomicInt *cancel) const
+{
+    int error = 0;
+    return childs(entry, filters, cancel, &error);
+}
+
+EntryList LocalVfs::childs(const Entry &entry, EntryChildFilters filters, QAtomicInt *cancel, int *error) const
+{
+    const QString directory = diskPath(entry);
+    if (directory.isEmpty()) {
+        EntryList places = m_places.childEntries(entry);
+        if (entry == m_places.computer())
+            places.append(makeLocalEntry(QStringLiteral("/")));
+        return places;
+    }
+    DirectoryListing listing = listDirectory(directory, filters, cancel);
+    *error = listing.error;
+    return listing.entries;
+}
+
+EntryList LocalVfs::pathEntryList(const Entry &entry) const
+{
+    EntryList chain;
+    for (Entry step = entry; !step.isNull(); step = parent(step))
+        chain.prepend(step);
+    return chain;
+}
+
+EntryList LocalVfs::pathEntryList(const Entry &entry, const Entry &from) const
+{
+    EntryList chain;
+    for (Entry step = entry; !step.isNull(); step = parent(step)) {
+        chain.prepend(step);
+        if (step == from)
+            return chain;
+        if (isLocal(step) && step.path() == diskPath(from)) { // the directory behind a place stands for the place
+            chain.first() = from;
+            return chain;
+        }
+    }
+    return {};
+}
+
+bool LocalVfs::isEntryExists(const Entry &entry) const
+{
+    if (!isLocal(entry))
+        return !m_places.entry(entry.path()).isNull();
+    struct stat facts;
+    const QByteArray bytes = PathCodec::encode(entry.path());
+    return !bytes.isEmpty() && lstat(bytes.constData(), &facts) == 0;
+}
+
+QString LocalVfs::localPath(const QString &path) const
+{
+    QString disk;
+    if (path.startsWith(QLatin1Char('/')))
+        disk = path;
+    else if (path.startsWith(QLatin1String("file:")))
+        disk = pathFromFileUrl(QUrl(path));
+    else
+        return m_places.entry(path).localPath();
+    disk = canonicalPath(disk);
+    return PathCodec::isPortable(disk) ? disk : QString();
+}
+
+QUrl LocalVfs::placeUrl(const Entry &entry) const
+{
+    if (entry.isNull())
+        return {};
+    return isLocal(entry) ? fileUrlOfPath(entry.path()) : QUrl(entry.path());
+}
+
+QList<QUrl> LocalVfs::urlsFromEntries(const EntryList &entries) const
+{
+    QList<QUrl> urls;
+    for (const Entry &entry : entries) {
+        if (entry.isNull())
+            continue;
+        const QString disk = diskPath(entry);
+        urls.append(disk.isEmpty() ? QUrl(entry.path()) : fileUrlOfPath(disk));
+    }
+    return urls;
+}
+
+EntryList LocalVfs::entriesFromUrls(const QList<QUrl> &urls) const
+{
+    EntryList entries;
+    for (const QUrl &url : urls) {
+        const QString disk = pathFromFileUrl(url);
+        const Entry found = entry(disk.isEmpty() ? url.toString() : disk);
+        if (!found.isNull())
+            entries.append(found);
+    }
+    return entries;
+}
+
+bool LocalVfs::mayContainContainers(const Entry &entry) const
+{
+    return entry.isDir();
+}
+
+bool LocalVfs::containsContainers(const Entry &entry) const
+{
+    const QString directory = diskPath(entry);
+    return directory.isEmpty() ? !childs(entry, ContainersOnly, nullptr).isEmpty() : hasSubdirectory(directory);
+}
+
+bool LocalVfs::isOnSlowFileSystem(const QString &path, const QString &localPath) const
+{
+    return m_fileSystems.isNetwork(localPath.isEmpty() ? path : localPath);
+}
+
+bool LocalVfs::isOnNonHomeNetworkFileSystem(const Entry &entry) const
+{
+    const QString path = diskPath(entry);
+    return m_fileSystems.isNetwork(path) && !m_fileSystems.isSame(path, m_home.path());
+}
+
+Entry LocalVfs::symLinkTargetEntry(const Entry &entry) const
+{
+    return entry.isSymLink() ? this->entry(entry.symLinkTarget()) : Entry();
+}
+
+StoragePlace LocalVfs::storagePlace(const Entry &) const
+{
+    return {};
+}
+
+FavoritePlace LocalVfs::favoritePlace(const Entry &entry) const
+{
+    return m_places.favoritePlace(entry);
+}
+
+VFSPlaceBase *LocalVfs::placeBase() const
+{
+    return &m_places;
+}
+
+ArchiveMountsManagerProxy *LocalVfs::archiveMountsManager() const
+{
+    return &m_archiveMounts;
+}
+
+EntryWatcher *LocalVfs::entryWatcher() const
+{
+    return m_watcher;
+}
+
+} // namespace VeskFM
