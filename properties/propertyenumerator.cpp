@@ -5,7 +5,9 @@
 
 #include "holderpool_p.h"
 
+#include <veskfm/desktopentrypool.h>
 #include <veskfm/entrybasepropertyset.h>
+#include <veskfm/entryviewparameters.h>
 #include <veskfm/propertydataholder.h>
 #include <veskfm/propsplugin.h>
 #include <veskfm/trash.h>
@@ -51,7 +53,9 @@ void makeObjectsOfWorker()
 {
     VFS::ptr();
     VeskIconTheme::instance();
+    EntryViewParameters::ptr();
     Trash::ptr();
+    DesktopEntryPool::ptr();
 }
 
 } // namespace

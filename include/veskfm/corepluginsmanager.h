@@ -36,7 +36,7 @@ public:
     void release() override; ///< empties propsPlugins()
 
 private:
-    PropsPlugin *load(const QString &filePath) const;
+    static PropsPlugin *load(const QString &filePath); // null for what is no property plug-in
 
     static CorePluginsManager *m_ptr;
 

@@ -38,7 +38,8 @@ private:
 
     QList<PropsPlugin *> m_plugins; // borrowed
     EntryList m_entries;
-    bool *m_running = nullptr; // the caller's
+    bool m_neverStopped = true;
+    bool *m_running = &m_neverStopped; // or the caller's
     bool m_started = false;
 };
 
