@@ -17,7 +17,7 @@ class ModelItem;
 /// Finds the items of a model by their entry: a hash table with open addressing, since one node per row of a large
 /// directory would cost more than the row itself. An entry may have several items.
 ///
-/// Items are borrowed and have to be removed before they are deleted, unless the whole index is cleared first.
+/// It holds the items that stand in the list of their parent. They are borrowed.
 class ItemIndex
 {
 public:
@@ -27,12 +27,12 @@ public:
 
     void reserve(size_t count); ///< room for @p count items in all
     void insert(ModelItem *item, uint hash);
-    void remove(ModelItem *item); ///< ignored when it is not in the index
-    void clear();
+    void remove(ModelItem *item);           ///< ignored when it is not in the index
+    void removeBelow(const ModelItem *top); ///< all at once: cheaper than one by one when they are most of the items
     size_t size() const { return m_size; }
 
-    Items items(const Entry &entry) const { return items(entry, hashOf(entry)); } ///< in no particular order
-    Items items(const Entry &entry, uint hash) const;
+    Items items(const Entry &entry, uint hash) const; ///< in no particular order
+    /// Whether a child of @p parent shows @p entry. The ".." row counts if @p countDotDot.
     bool contains(const ModelItem *parent, const Entry &entry, uint hash, bool countDotDot) const;
 
 private:
@@ -40,7 +40,7 @@ private:
     size_t next(size_t slot) const { return slot + 1 == m_items.size() ? 0 : slot + 1; }
     void rehash(size_t slots);
 
-    std::vector<uint> m_hashes;       // beside m_items, so that probing stays within a cache line
+    std::vector<uint> m_hashes;       // apart from the items, so that probing stays within a cache line
     std::vector<ModelItem *> m_items; // null where free; the length is a power of two, or 0
     size_t m_size = 0;
 };

@@ -32,13 +32,15 @@ public:
 
     void initialise(Model::Mode initialMode, ModelFilter::EntryFilters filters);
     void setRoot(const Entry &entry);
-    /// Adds an item for @p entry below @p parent where it sorts. The announced form tells the views; without, a listing
-    /// that is still to come does. Returns the item.
-    ModelItem *insertItem(ModelItem *parent, const Entry &entry);
-    ModelItem *insertItemSilently(ModelItem *parent, const Entry &entry);
-    void removeItem(ModelItem *item);                   ///< announced; deletes it with all below
-    void removeChildren(ModelItem *item);               ///< likewise, all its children
+    void deleteRoot();
     QList<ModelItem *> finds(const Entry &entry) const; ///< all items that show it
+
+    /// Adds an item for @p entry below @p parent where it sorts, and tells the views.
+    ModelItem *insertItem(ModelItem *parent, const Entry &entry);
+    /// The same without telling: the listing that is still to come does.
+    ModelItem *insertItemSilently(ModelItem *parent, const Entry &entry);
+    void removeItem(ModelItem *item);     ///< tells the views; deletes the item, which has a parent, with all below
+    bool removeChildren(ModelItem *item); ///< likewise all below it; false when a slot has removed more than that
 
     void onDirListed(const Entry &entry, VFS::EntryChildFilters filters, const EntryList &children);
     void onEntryCreated(const Entry &entry);
@@ -55,15 +57,19 @@ public:
     Model::SortOrder sortOrder = Model::Ascending;
     bool showDotDot = false;
     bool archivesAreFiles = false;
-    int sizePropertyIndex = -1;
-    ItemIndex itemIndex; // every item that stands in its parent's list
+    int sizePropertyIndex = -1;        // -1 when there is no "Size"
+    QStringList internalPropertyNames; // never change while there is an enumerator
+    ItemIndex itemIndex;
 
 private:
-    void refreshItems(const QList<ModelItem *> &items, const Entry &fresh);
-    bool fillItem(ModelItem *item, const EntryList &children);
-    bool announceRows(ModelItem *item, const QVector<ModelItem *> &former);
+    void announceListingState(ModelItem *item);
+    std::vector<ModelItem *> acceptedChildren(ModelItem *item, const EntryList &children);
+    void addListedChildren(ModelItem *item, const EntryList &children);
+    bool announceRows(ModelItem *item, const std::vector<ModelItem *> &former);
+    void refreshItems(const Entry &fresh);
+    template <typename Handler> void forEachTopmost(const Entry &entry, bool withRoot, Handler &&handler);
 
-    int m_removals = 0; // counts what deleted items, so that a loop notices when a slot did
+    int m_removals = 0; // goes up whenever items are deleted, so that a loop notices when a slot did that
 };
 
 } // namespace VeskFM

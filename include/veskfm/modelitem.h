@@ -11,6 +11,7 @@
 #include <QVariant>
 
 #include <memory>
+#include <vector>
 
 namespace VeskFM
 {
@@ -105,8 +106,12 @@ private:
     void set(Flag flag, bool on) { m_flags = quint8(on ? m_flags | flag : m_flags & ~flag); }
 
     ModelPrivate *modelPrivate() const;
+    void lateInit();
     bool isBelow(const ModelItem *ancestor) const;
-    template <typename Visitor> void visit(const Entry &entry, Visitor &&visitor) const;
+    std::vector<ModelItem *> childItems() const;
+    void setChildItems(const std::vector<ModelItem *> &children);
+    void deleteChildren();
+    void takeFresher(const Entry &entry);
 
     Entry m_entry;
     const Model *const m_model;

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <QStringView>
+
+namespace VeskFM
+{
+
+/// The order of names in the C locale: runs of ASCII digits count by their value, everything else by code unit. Equal
+/// by that (as "A01" and "A1"), the plain order of code units decides, so that different texts never tie.
+///
+/// The collator of the toolkit ignores its numeric mode in the C locale; hence this one.
+/// Returns a negative, zero or positive number.
+int naturalCompare(QStringView a, QStringView b);
+
+/// The first few characters as a number: where those of two texts differ, the texts compare likewise; where they are
+/// equal, only the whole texts tell. @p skip characters, which all texts have in common, are left out.
+quint64 naturalPrefix(QStringView text, qsizetype skip);
+quint64 codeUnitPrefix(QStringView text, qsizetype skip); ///< the same for the plain order of code units
+
+/// How many leading characters of the @p length first ones @p text has in common with @p other; it never ends within
+/// or right behind a run of digits.
+qsizetype commonPrefixLength(QStringView text, QStringView other, qsizetype length);
+
+} // namespace VeskFM
