@@ -3,6 +3,8 @@
 
 #include <veskplatform/veskicontheme.h>
 
+#include "mimeiconnames.h"
+
 #include <QHash>
 #include <QMimeDatabase>
 #include <QReadWriteLock>
@@ -10,12 +12,18 @@
 namespace
 {
 
-QReadWriteLock namesLock;
-
-QHash<QString, QString> &iconNames() // by MIME type name; guarded by namesLock
+// What the MIME database has said: it answers slowly, and it is asked for each file.
+struct Names
 {
-    static QHash<QString, QString> names;
-    return names;
+    QReadWriteLock lock;
+    QHash<QString, QString> byMimeType;
+    QHash<QString, QString> genericByName;
+};
+
+Names &names()
+{
+    static Names instance;
+    return instance;
 }
 
 } // namespace
@@ -26,17 +34,27 @@ VeskIconTheme *VeskIconTheme::instance()
     return &theme;
 }
 
+// Whether the theme has the icon is not asked here: themes may be searched in the GUI thread only.
 QString VeskIconTheme::getMimeIconName(const QString &mimeType) const
 {
     {
-        const QReadLocker locker(&namesLock);
-        const auto known = iconNames().constFind(mimeType);
-        if (known != iconNames().constEnd())
+        const QReadLocker locker(&names().lock);
+        const auto known = names().byMimeType.constFind(mimeType);
+        if (known != names().byMimeType.constEnd())
             return *known;
     }
     const QMimeType type = QMimeDatabase().mimeTypeForName(mimeType);
-    const QString name = type.isValid() ? type.iconName() : QString();
-    const QWriteLocker locker(&namesLock);
-    iconNames().insert(mimeType, name);
+    if (!type.isValid())
+        return {};
+    const QString name = type.iconName();
+    const QWriteLocker locker(&names().lock);
+    names().byMimeType.insert(mimeType, name);
+    names().genericByName.insert(name, type.genericIconName());
     return name;
+}
+
+QString genericMimeIconName(const QString &iconName)
+{
+    const QReadLocker locker(&names().lock);
+    return names().genericByName.value(iconName);
 }
