@@ -25,6 +25,7 @@ TextDigestEnumerator::~TextDigestEnumerator() = default;
 void TextDigestEnumerator::start(const EntryList &entries, bool *running)
 {
     m_entries = entries;
+    m_neverStopped = true;
     m_running = running ? running : &m_neverStopped;
     m_started = true;
 }
