@@ -191,14 +191,16 @@ void PropertyDataHolderTest::laysEmblemsIntoCorners()
     RecordingPlugin plugin(0, &record);
     PropertyEnumerator enumerator({&plugin});
     PropertyDataHolder holder(2);
-    emblemRequests.clear();
     QCOMPARE(holder.propertyValueData(m_entry, 0, Qt::DecorationRole, &enumerator).userType(), int(QMetaType::QIcon));
-    enumerator.setShowPropertyEmblems(false);
-    holder.propertyValueData(m_entry, 0, Qt::DecorationRole, &enumerator);
-    holder.propertyValueData(m_entry, 1, Qt::DecorationRole, &enumerator); // only the name column has an icon
     using Emblems = QMap<Qt::Corner, QString>;
     const Emblems all{{Qt::BottomLeftCorner, "bl"}, {Qt::TopRightCorner, "tr"}, {Qt::TopLeftCorner, "tl"}};
-    QCOMPARE(emblemRequests, QList<Emblems>({all, Emblems()}));
+    QCOMPARE(emblemRequests.last(), all);
+    enumerator.setShowPropertyEmblems(false);
+    holder.propertyValueData(m_entry, 0, Qt::DecorationRole, &enumerator);
+    QCOMPARE(emblemRequests.last(), Emblems()); // asked all the same
+    emblemRequests.clear();
+    holder.propertyValueData(m_entry, 1, Qt::DecorationRole, &enumerator); // only the name column has an icon
+    QVERIFY(emblemRequests.isEmpty());
 }
 
 void PropertyDataHolderTest::givesNothingForUnknownProperties()

@@ -26,8 +26,9 @@ class PropsPluginWidget;
 /// digests of a selection. Everything beyond the names is optional.
 ///
 /// The root object of the shared library derives from QObject and PropsPlugin and names this interface by Q_INTERFACES
-/// and VESKFM_PROPSPLUGIN_IID. Plug-ins are loaded once and stay. At most 7 of them may be loaded: the eighth ends the
-/// program at the first row.
+/// and VESKFM_PROPSPLUGIN_IID. Its constructor runs while plug-ins are being loaded: leave Props and CorePluginsManager
+/// alone there, they are not complete. Plug-ins are loaded once and stay. At most 7 of them may be loaded: the eighth ends
+/// the program at the first row.
 ///
 /// Thread: GUI, except textDigest(). The sets that createPropertySet() makes also work on a pool thread.
 class VESKFM_EXPORT PropsPlugin : public Plugin
