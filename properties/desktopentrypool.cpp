@@ -31,6 +31,7 @@ DesktopEntryPool::DesktopEntryPool(QObject *parent)
     , m_timer(this)
 {
     m_timer.setInterval(recordLifeMs);
+    m_timer.setTimerType(Qt::PreciseTimer); // a coarse one may come just before the records are old enough
     connect(&m_timer, &QTimer::timeout, this, &DesktopEntryPool::clearDesktopEntries);
     // A refinement may be the first to ask: a timer in a thread of the pool would never fire.
     if (const QCoreApplication *application = QCoreApplication::instance(); application && !parent)

@@ -37,7 +37,7 @@ constexpr const char *columnNames[] = {QT_TRANSLATE_NOOP("FileInfo", "Size"), QT
 QString sizeText(qint64 bytes)
 {
     if (EntryViewParameters::ptr()->showFileSizeInBytes())
-        return QCoreApplication::translate("FileInfo", "%1 B").arg(QLocale().toString(bytes));
+        return QCoreApplication::translate("FileInfo", "%1 B").arg(bytes);
     return Core::dataSizeAsString(bytes);
 }
 
