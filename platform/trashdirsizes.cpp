@@ -6,27 +6,10 @@
 #include "smallfile.h"
 #include "trashinfo.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <cstdio>
-#include <cstdlib>
-
 namespace
 {
 
 constexpr qint64 largestFile = 64 << 20; // bytes: a million directories
-
-bool writeAll(int descriptor, const QByteArray &content)
-{
-    for (qint64 done = 0; done < content.size();) {
-        const ssize_t count = write(descriptor, content.constData() + done, size_t(content.size() - done));
-        if (count <= 0)
-            return false;
-        done += count;
-    }
-    return true;
-}
 
 } // namespace
 
@@ -77,12 +60,6 @@ void TrashDirSizes::save()
         content += QByteArray::number(record->size) + ' ' + QByteArray::number(record->infoTime) + ' '
             + trashPercentEncoded(record.key()) + '\n';
     }
-    QByteArray temporary = m_file + ".XXXXXX";
-    const int descriptor = mkostemp(temporary.data(), O_CLOEXEC);
-    if (descriptor < 0)
-        return;
-    const bool written = writeAll(descriptor, content);
-    if (close(descriptor) != 0 || !written || rename(temporary.constData(), m_file.constData()) != 0)
-        unlink(temporary.constData());
+    replaceFile(m_file, content);
     m_changed = false;
 }

@@ -3,6 +3,7 @@
 
 #include <veskplatform/vesktrash.h>
 
+#include "smallfile.h"
 #include "trashdirsizes.h"
 #include "trashinfo.h"
 #include "xdgdirs.h"
@@ -115,16 +116,6 @@ QByteArray nameInTrash(const std::string &path)
     const bool isThere =
         parent == filesDir() || (!resolved(parent).isEmpty() && resolved(parent) == resolved(filesDir()));
     return isThere ? nameOf(item) : QByteArray();
-}
-
-bool makeDirs(const QByteArray &path)
-{
-    if (mkdir(path.constData(), 0700) == 0)
-        return true;
-    if (errno == ENOENT && path != "/")
-        return makeDirs(parentOf(path)) && makeDirs(path);
-    struct stat facts = {};
-    return errno == EEXIST && stat(path.constData(), &facts) == 0 && S_ISDIR(facts.st_mode);
 }
 
 // "name.txt", "name.2.txt", ...; short enough for the name of its ".trashinfo" file, and cut between characters.
