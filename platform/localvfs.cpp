@@ -187,7 +187,10 @@ QString LocalVfs::localPath(const QString &path) const
         disk = pathFromFileUrl(QUrl(path));
     else
         return m_places.entry(path).localPath();
+    const bool isMarkedAsDir = disk.endsWith(QLatin1Char('/')); // stays: some compare paths exactly
     disk = canonicalPath(disk);
+    if (isMarkedAsDir && !disk.endsWith(QLatin1Char('/')))
+        disk += QLatin1Char('/');
     return PathCodec::isPortable(disk) ? disk : QString();
 }
 
