@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "entrydelegate.h"
+
+#include "printabletext.h"
+
+#include <algorithm>
+
+namespace
+{
+constexpr int rowPadding = 4; // pixels above and below the taller of text and icon
+} // namespace
+
+EntryDelegate::EntryDelegate(QObject *parent)
+    : QStyledItemDelegate(parent)
+{
+}
+
+QString EntryDelegate::displayText(const QVariant &value, const QLocale &locale) const
+{
+    return printableText(QStyledItemDelegate::displayText(value, locale));
+}
+
+QSize EntryDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
+{
+    const int content = std::max(option.decorationSize.height(), option.fontMetrics.height());
+    return {option.decorationSize.width(), content + 2 * rowPadding};
+}
+
+void EntryDelegate::setRightAlignedColumn(int column)
+{
+    m_rightAlignedColumn = column;
+}
+
+void EntryDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    const QSize box = option->decorationSize;
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->decorationSize = box; // the base shrinks it to the picture, and names would start anywhere
+    option->decorationAlignment = Qt::AlignCenter;
+    if (index.column() == m_rightAlignedColumn) {
+        option->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+        option->text += QStringLiteral("\u2002"); // keeps away from the next column
+    }
+}

@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+// A small file manager: a table of one directory. It shows how a program uses the library.
+
+#include "listingstate.h"
+#include "mainwindow.h"
+#include "options.h"
+#include "printabletext.h"
+#include "screenshot.h"
+#include "tableprinter.h"
+
+#include <veskfm/entryviewparameters.h>
+#include <veskfm/modelfilter.h>
+#include <veskplatform/vfs.h>
+
+#include <QApplication>
+#include <QFont>
+#include <QIcon>
+#include <QStandardPaths>
+#include <QTextStream>
+#include <QTimer>
+
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+
+using namespace VeskFM;
+
+namespace
+{
+
+constexpr int listingDeadlineMs = 60000;
+constexpr int offscreenFontSize = 10; // points
+
+int fail(const QString &message)
+{
+    std::fprintf(stderr, "vesk-browser: %s\n", qUtf8Printable(message));
+    return 1;
+}
+
+// In a bare environment the toolkit would read and write file names as ASCII, and lose all others.
+void chooseEncoding()
+{
+    std::setlocale(LC_ALL, "");
+    if (MB_CUR_MAX == 1)
+        qputenv(qEnvironmentVariableIsEmpty("LC_ALL") ? "LC_CTYPE" : "LC_ALL", "C.UTF-8");
+    std::setlocale(LC_ALL, "");
+}
+
+// Without a window to show nobody needs a display, and it is no surprise when there is none.
+void choosePlatform(const Options &options)
+{
+    if (options.isHeadless() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+// Outside a desktop session nobody has chosen an icon theme; any complete one that is installed will do.
+void chooseIconTheme()
+{
+    if (QIcon::themeSearchPaths() == QStringList(QStringLiteral(":/icons"))) {
+        const QStringList installed = QStandardPaths::locateAll(
+            QStandardPaths::GenericDataLocation, QStringLiteral("icons"), QStandardPaths::LocateDirectory);
+        QIcon::setThemeSearchPaths(QIcon::themeSearchPaths() + installed);
+    }
+    for (const char *name : {"breeze", "Adwaita", "Papirus", "oxygen", "gnome", "Tango", "elementary"}) {
+        if (QIcon::hasThemeIcon(QStringLiteral("folder")))
+            return;
+        QIcon::setThemeName(QString::fromLatin1(name));
+    }
+}
+
+// Without a screen the toolkit takes a font that is far too large for a window of this size.
+void chooseFont()
+{
+    if (QGuiApplication::platformName() != QLatin1String("offscreen"))
+        return;
+    QFont font = QApplication::font();
+    font.setPointSize(offscreenFontSize);
+    QApplication::setFont(font);
+}
+
+int printRows(const Options &options, const Entry &directory)
+{
+    EntryViewParameters::ptr()->setShowThumbnails(false); // nobody would see them
+    Model model(Model::TableMode, ModelFilter::AllEntries, nullptr);
+    if (!applyOptions(options, &model))
+        return fail(QObject::tr("there is no column %1").arg(options.sortProperty));
+    QObject::connect(&model, &Model::dirListed, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    QTimer::singleShot(listingDeadlineMs, qApp, [] { QCoreApplication::exit(1); });
+    model.rebuild(directory);
+    if (QCoreApplication::exec() != 0)
+        return fail(QObject::tr("%1 does not answer").arg(printableText(directory.path())));
+
+    QTextStream out(stdout);
+    out.setCodec("UTF-8");
+    TablePrinter(model).print(out);
+    const QString problem = model.rowCount() == 0 ? accessProblem(directory) : QString();
+    return problem.isEmpty() ? 0 : fail(printableText(directory.path()) + QLatin1String(": ") + problem);
+}
+
+int showWindow(const Options &options, const Entry &directory)
+{
+    MainWindow window;
+    if (!window.configure(options))
+        return fail(QObject::tr("there is no column %1").arg(options.sortProperty));
+    window.openDirectory(directory);
+    if (options.screenshotFile.isEmpty()) {
+        window.show();
+        return QApplication::exec();
+    }
+
+    Screenshot screenshot(&window, options.screenshotFile);
+    QString problem;
+    QObject::connect(&screenshot, &Screenshot::finished, qApp, [&problem](const QString &text) {
+        problem = text;
+        QCoreApplication::quit();
+    });
+    QApplication::exec();
+    return problem.isEmpty() ? 0 : fail(problem);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    chooseEncoding();
+    Options options;
+    QString problem = readOptions(argc, argv, &options);
+    if (options.help) {
+        std::fputs(qUtf8Printable(helpText()), stdout);
+        return 0;
+    }
+    choosePlatform(options);
+    if (!hasDisplay())
+        return fail(problem.isEmpty() ? QStringLiteral("there is no display; --print and --screenshot FILE need none")
+                                      : problem);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("vesk-browser"));
+    problem = readOptions(argc, argv, &options);
+    if (!problem.isEmpty())
+        return fail(problem);
+    EntryViewParameters::ptr()->initFromSettings();
+
+    const Entry directory = entryForArgument(options.directory);
+    const QString name = printableText(QString::fromUtf8(options.directory));
+    if (directory.isNull() || !VFS::ptr()->isEntryExists(directory))
+        return fail(QObject::tr("%1: there is no such directory").arg(name));
+    if (!directory.isDir() && !directory.isPlace())
+        return fail(QObject::tr("%1: not a directory").arg(name));
+    if (options.print)
+        return printRows(options, directory);
+    chooseIconTheme();
+    chooseFont();
+    return showWindow(options, directory);
+}

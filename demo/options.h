@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <veskfm/model.h>
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+/// What the command line asks for.
+struct Options
+{
+    QByteArray directory; ///< as given, in the bytes of the file system; empty for the current directory
+    bool help = false;
+    bool print = false;
+    QString screenshotFile; ///< empty: no screenshot
+    bool hidden = false;
+    QString filter;       ///< as typed; empty for no filter
+    QString sortProperty; ///< internal name of a property; empty for the default
+    VeskFM::Model::SortOrder sortOrder = VeskFM::Model::Ascending;
+
+    /// Whether no window is wanted on a display.
+    bool isHeadless() const { return print || !screenshotFile.isEmpty(); }
+};
+
+/// Reads the command line. Needs no application object, so that the answer can decide about the platform; before the
+/// application has taken its own options out of @p argv, those count as unknown.
+/// @return what is wrong with it; empty when all is well
+QString readOptions(int argc, char **argv, Options *options);
+
+/// The text for --help.
+QString helpText();
+
+/// The entry that a path of the command line names, relative to the current directory; null where there is none.
+VeskFM::Entry entryForArgument(const QByteArray &path);
+
+/// The patterns for what a user types into a name filter: wildcards as they are, separated by ";", other text anywhere
+/// in the name.
+QStringList nameFilterPatterns(const QString &text);
+
+/// Sets sorting and filters of a model that has no root yet. Returns false for an unknown property.
+bool applyOptions(const Options &options, VeskFM::Model *model);
