@@ -77,13 +77,13 @@ bool FileSystemKinds::isNetwork(const QString &path) const
     if (bytes.isEmpty() || stat(bytes.constData(), &facts) != 0)
         return false;
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard<std::mutex> lock(m_mutex);
         const auto known = m_network.constFind(facts.st_dev);
         if (known != m_network.constEnd())
             return *known;
     }
     const bool network = findOutNetwork(bytes, facts.st_dev); // without the lock: a dead server blocks only who asks
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard<std::mutex> lock(m_mutex);
     m_network.insert(facts.st_dev, network);
     return network;
 }

@@ -4,9 +4,10 @@
 #pragma once
 
 #include <QHash>
-#include <QMutex>
 
 #include <sys/types.h>
+
+#include <mutex>
 
 namespace VeskFM
 {
@@ -23,7 +24,7 @@ public:
     bool isSame(const QString &path, const QString &other) const;
 
 private:
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex;
     mutable QHash<dev_t, bool> m_network; // by device
 };
 

@@ -3,28 +3,294 @@
 
 #include "localentrywatcher.h"
 
+#include "deferredentrydata.h"
+#include "localentrydata.h"
 #include "localvfs.h"
+#include "pathcodec.h"
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+
+#include <sys/inotify.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <cstdlib>
 
 namespace VeskFM
 {
 
+namespace
+{
+constexpr int listingThreads = 4;   // so that a slow disk does not keep others waiting
+constexpr int stopTimeoutMs = 2000; // a listing may hang in a dead file system; the process still has to end
+constexpr int generousDirectories = 256;
+constexpr size_t changesPerRound = 256; // between reads, so that the kernel's queue of events does not run over
+constexpr int mostBadEntries = 10000;
+
+std::atomic<LocalEntryWatcher *> runningWatcher{nullptr};
+
+/// The directory whose changes concern @p entry; empty for places that never change.
+QByteArray watchedDirectory(const Entry &entry)
+{
+    if (entry.isFavoritesPlace())
+        return PathCodec::encode(VFS::parentDirPath(LocalPlaces::bookmarksFile()));
+    return PathCodec::encode(LocalVfs::diskPath(entry));
+}
+
+QString childPath(const QString &directory, const QByteArray &name)
+{
+    const QString text = PathCodec::decode(name);
+    return directory.endsWith(QLatin1Char('/')) ? directory + text : directory + QLatin1Char('/') + text;
+}
+
+QByteArray parentDirectory(const QByteArray &directory)
+{
+    return PathCodec::encode(VFS::parentDirPath(PathCodec::decode(directory)));
+}
+} // namespace
+
 LocalEntryWatcher::LocalEntryWatcher(LocalVfs *vfs)
     : EntryWatcher(vfs)
     , m_vfs(vfs)
+    , m_reader(this)
 {
-    m_listings.setMaxThreadCount(4);
+    m_clock.start();
+    m_listings.setMaxThreadCount(listingThreads);
 }
 
 LocalEntryWatcher::~LocalEntryWatcher()
 {
+    stop();
+}
+
+void LocalEntryWatcher::start()
+{
+    if (m_running)
+        return;
+    m_running = true;
+    m_cancel.storeRelaxed(0);
+    runningWatcher = this;
+    qAddPostRoutine(stopRunning);
+    static const int registered = std::atexit(stopRunning); // for a process that never deletes its application object
+    Q_UNUSED(registered);
+    if (m_reader.open())
+        m_reader.start();
+}
+
+void LocalEntryWatcher::stop()
+{
+    LocalEntryWatcher *self = this;
+    runningWatcher.compare_exchange_strong(self, nullptr);
     m_cancel.storeRelaxed(1);
+    m_reader.stop();
+    m_listings.clear();
+    m_listings.waitForDone(stopTimeoutMs);
+    m_registry.clear();
+    m_poller.clear();
+    m_running = false;
+}
+
+void LocalEntryWatcher::stopRunning()
+{
+    if (LocalEntryWatcher *const watcher = runningWatcher)
+        watcher->stop();
 }
 
 void LocalEntryWatcher::listDir(const Entry &entry, VFS::EntryChildFilters filters)
 {
-    m_listings.start([=] { Q_EMIT dirListed(entry, filters, m_vfs->childs(entry, filters, &m_cancel)); });
+    start();
+    const QByteArray directory = entry.isNull() ? QByteArray() : watchedDirectory(entry);
+    if (!directory.isEmpty())
+        m_registry.beginListing(directory, entry, filters);
+    m_listings.start([=] { list(entry, filters, directory); });
 }
 
-void LocalEntryWatcher::addBadEntry(const Entry &) {}
+void LocalEntryWatcher::list(const Entry &entry, VFS::EntryChildFilters filters, const QByteArray &directory)
+{
+    if (!directory.isEmpty())
+        watch(directory); // first, so that there is no moment in which a change is neither listed nor noticed
+    int error = 0;
+    const EntryList children = m_vfs->childs(entry, filters, &m_cancel, &error);
+    if (error == EACCES || error == EPERM)
+        rememberBadEntry(entry);
+    if (m_cancel.loadRelaxed() != 0)
+        return;
+    Q_EMIT dirListed(entry, filters, children);
+    if (directory.isEmpty())
+        return;
+    if (error == ENOENT)
+        m_registry.setMoved(directory);
+    m_registry.endListing(directory);
+    const QList<QByteArray> unused = m_registry.takeUnused(generousDirectories);
+    for (const QByteArray &other : unused)
+        unwatch(other);
+    m_reader.wake();
+}
+
+void LocalEntryWatcher::watch(const QByteArray &directory)
+{
+    const int error = m_reader.watch(directory);
+    const FileIdentity identity = FileIdentity::of(directory);
+    m_registry.setIdentity(directory, identity);
+    if (error == ENOSPC || error == EMFILE || error == ENFILE || error == ENOMEM) {
+        m_poller.add(directory, identity);
+        std::call_once(m_limitWarning, [] {
+            qWarning("The system's limit of watched directories is reached; changes are looked for every %d s.",
+                     int(DirectoryPoller::intervalMs / 1000));
+        });
+    } else {
+        m_poller.remove(directory);
+    }
+}
+
+void LocalEntryWatcher::unwatch(const QByteArray &directory)
+{
+    m_reader.unwatch(directory);
+    m_poller.remove(directory);
+    if (m_registry.contains(directory)) { // listed again just now
+        watch(directory);
+        m_registry.reset(directory);
+    }
+}
+
+void LocalEntryWatcher::addBadEntry(const Entry &entry)
+{
+    if (entry.isNull() || !rememberBadEntry(entry))
+        return;
+    start();
+    m_listings.start([=] {
+        if (!m_vfs->isEntryExists(entry))
+            Q_EMIT entryDeleted(entry);
+    });
+}
+
+/// False for one that is known.
+bool LocalEntryWatcher::rememberBadEntry(const Entry &entry)
+{
+    const std::lock_guard<std::mutex> lock(m_badMutex);
+    const QString path = entry.path();
+    if (m_bad.contains(path))
+        return false;
+    if (m_bad.size() >= mostBadEntries)
+        m_bad.clear();
+    m_bad.insert(path);
+    return true;
+}
+
+void LocalEntryWatcher::onDirectoryEvent(const QByteArray &directory, quint32 mask, const QByteArray &name)
+{
+    if (mask & (IN_DELETE_SELF | IN_MOVE_SELF | IN_IGNORED)) {
+        m_registry.setMoved(directory);
+        return;
+    }
+    if (name.isEmpty())
+        return; // of the directory itself: told by the one above it
+    const auto add = [&](PendingChanges::Kind kind) { m_registry.addChange(directory, name, kind, m_clock.elapsed()); };
+    if (mask & (IN_CREATE | IN_MOVED_TO))
+        add(PendingChanges::Created);
+    else if (mask & (IN_DELETE | IN_MOVED_FROM))
+        add(PendingChanges::Deleted);
+    else if (mask & IN_MODIFY)
+        add(PendingChanges::Changed);
+    else if (mask & IN_CLOSE_WRITE)
+        add(PendingChanges::Closed);
+    else if (mask & IN_ATTRIB)
+        add(PendingChanges::AttributesChanged);
+}
+
+void LocalEntryWatcher::onEventsLost()
+{
+    m_registry.resetAll();
+}
+
+int LocalEntryWatcher::onRound()
+{
+    const QList<QByteArray> polled = m_poller.changed(m_clock.elapsed());
+    for (const QByteArray &directory : polled)
+        m_registry.reset(directory);
+    qint64 nextDue = PendingChanges::never;
+    const std::vector<DirectoryNews> all = m_registry.takeNews(m_clock.elapsed(), changesPerRound, &nextDue);
+    for (const DirectoryNews &news : all)
+        tell(news);
+    nextDue = std::min(nextDue, m_poller.nextDue());
+    return nextDue == PendingChanges::never ? -1 : int(qMax<qint64>(nextDue - m_clock.elapsed(), 0));
+}
+
+void LocalEntryWatcher::tell(const DirectoryNews &news)
+{
+    const FileIdentity now = FileIdentity::of(news.directory);
+    if (!now.exists) {
+        tellVanished(news);
+        return;
+    }
+    // A directory above it may have got another name, which nobody tells: the path may lead to another one by now.
+    if (news.reset || news.moved || !now.isSameNode(news.identity)) {
+        tellReset(news);
+        return;
+    }
+    const QString directory = PathCodec::decode(news.directory);
+    const bool archivesAsFiles = std::all_of(news.shown.begin(), news.shown.end(), [](const ShownEntry &shown) {
+        return shown.filters.testFlag(VFS::ArchivesAsFiles);
+    });
+    uint kinds = 0;
+    for (const PendingChanges::Change &change : news.changes) {
+        kinds |= change.kinds;
+        tellChange(childPath(directory, change.name), change.kinds, archivesAsFiles);
+    }
+    for (const ShownEntry &shown : news.shown) {
+        // New children belong to the directory, which nobody shows under a place; the favorites are inside a file.
+        const uint concerned = shown.entry.isFavoritesPlace() ? ~0u : uint(PendingChanges::Created);
+        if (shown.entry.path() != directory && (kinds & concerned))
+            Q_EMIT entryReset(shown.entry);
+    }
+}
+
+void LocalEntryWatcher::tellChange(const QString &path, uint kinds, bool archivesAsFiles)
+{
+    if (kinds & PendingChanges::Deleted)
+        Q_EMIT entryDeleted(Entry(new DeferredEntryData(path)));
+    const Entry entry = makeLocalEntry(path, archivesAsFiles);
+    if (kinds & PendingChanges::Created) {
+        {
+            const std::lock_guard<std::mutex> lock(m_badMutex);
+            m_bad.remove(path);
+        }
+        if (!entry.isNull())
+            Q_EMIT entryCreated(entry);
+        return;
+    }
+    if (entry.isNull() || (kinds & PendingChanges::Deleted))
+        return; // its deletion is told, or is about to be
+    const bool otherwise = kinds & (PendingChanges::Changed | PendingChanges::AttributesChanged);
+    if ((kinds & PendingChanges::Changed) || !otherwise)
+        Q_EMIT entryChanged(entry);
+    if (kinds & PendingChanges::AttributesChanged)
+        Q_EMIT entryAttributesChanged(entry);
+}
+
+void LocalEntryWatcher::tellReset(const DirectoryNews &news)
+{
+    watch(news.directory); // the old watch may belong to what had this path before
+    for (const ShownEntry &shown : news.shown)
+        Q_EMIT entryReset(shown.entry);
+}
+
+void LocalEntryWatcher::tellVanished(const DirectoryNews &news)
+{
+    const bool toldByParent = m_reader.isWatching(parentDirectory(news.directory));
+    m_registry.remove(news.directory);
+    unwatch(news.directory);
+    const QString directory = PathCodec::decode(news.directory);
+    for (const PendingChanges::Change &change : news.changes)
+        Q_EMIT entryDeleted(Entry(new DeferredEntryData(childPath(directory, change.name))));
+    for (const ShownEntry &shown : news.shown) {
+        if (shown.entry.path() != directory)
+            Q_EMIT entryReset(shown.entry);
+        else if (!toldByParent)
+            Q_EMIT entryDeleted(shown.entry);
+    }
+}
 
 } // namespace VeskFM

@@ -49,6 +49,12 @@ TestTree::TestTree(std::initializer_list<const char *> names)
         add(name);
 }
 
+TestTree::~TestTree()
+{
+    std::error_code ignored; // QTemporaryDir would leave names that are no text
+    std::filesystem::remove_all(bytes().constData(), ignored);
+}
+
 QString TestTree::path(const QString &name) const
 {
     return name.isEmpty() ? m_dir.path() : m_dir.path() + QLatin1Char('/') + name;

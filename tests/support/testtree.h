@@ -20,6 +20,7 @@ class TestTree
 {
 public:
     TestTree(std::initializer_list<const char *> names = {});
+    ~TestTree();
 
     QString path(const QString &name = QString()) const;        ///< absolute; of the top without a name
     QByteArray bytes(const QByteArray &name = {}) const;        ///< the same for system calls

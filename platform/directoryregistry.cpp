@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "directoryregistry.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace VeskFM
+{
+
+namespace
+{
+using Lock = std::lock_guard<std::mutex>;
+
+/// Besides the registry; a model keeps the entry that it asked to list, or a copy that shares its data.
+bool isHeldElsewhere(const ShownEntry &shown)
+{
+    return shown.entry.data()->ref.loadRelaxed() > 1;
+}
+
+bool isBelow(const QByteArray &path, const QByteArray &directory)
+{
+    return path.size() > directory.size() && path.startsWith(directory) && path.at(directory.size()) == '/';
+}
+} // namespace
+
+void DirectoryRegistry::beginListing(const QByteArray &directory, const Entry &entry, VFS::EntryChildFilters filters)
+{
+    const Lock lock(m_mutex);
+    Record &record = m_records[directory];
+    ++record.listings;
+    QVector<ShownEntry> &shown = record.shown;
+    const auto outdated = [&entry](const ShownEntry &other) {
+        return other.entry.data() == entry.data() || (other.entry == entry && !isHeldElsewhere(other));
+    };
+    shown.erase(std::remove_if(shown.begin(), shown.end(), outdated), shown.end());
+    shown.append({entry, filters});
+}
+
+void DirectoryRegistry::setIdentity(const QByteArray &directory, const FileIdentity &identity)
+{
+    const Lock lock(m_mutex);
+    const auto record = m_records.find(directory);
+    if (record != m_records.end())
+        record->identity = identity;
+}
+
+void DirectoryRegistry::endListing(const QByteArray &directory)
+{
+    const Lock lock(m_mutex);
+    const auto record = m_records.find(directory);
+    if (record != m_records.end() && record->listings > 0)
+        --record->listings;
+}
+
+void DirectoryRegistry::addChange(const QByteArray &directory, const QByteArray &name, PendingChanges::Kind kind,
+                                  qint64 now)
+{
+    const Lock lock(m_mutex);
+    const auto record = m_records.find(directory);
+    if (record != m_records.end())
+        record->changes.add(name, kind, now);
+}
+
+void DirectoryRegistry::setMoved(const QByteArray &directory)
+{
+    const Lock lock(m_mutex);
+    for (auto record = m_records.begin(); record != m_records.end(); ++record) {
+        if (record.key() == directory || isBelow(record.key(), directory))
+            record->moved = true;
+    }
+}
+
+void DirectoryRegistry::reset(const QByteArray &directory)
+{
+    const Lock lock(m_mutex);
+    const auto record = m_records.find(directory);
+    if (record != m_records.end())
+        record->reset = true;
+}
+
+void DirectoryRegistry::resetAll()
+{
+    const Lock lock(m_mutex);
+    for (Record &record : m_records)
+        record.reset = true;
+}
+
+std::vector<DirectoryNews> DirectoryRegistry::takeNews(qint64 now, size_t most, qint64 *nextDue)
+{
+    const Lock lock(m_mutex);
+    std::vector<DirectoryNews> all;
+    *nextDue = PendingChanges::never;
+    for (auto record = m_records.begin(); record != m_records.end(); ++record) {
+        if (record->listings > 0)
+            continue;
+        DirectoryNews news;
+        if (takeNewsOf(record.key(), &*record, now, most, &news)) {
+            most -= std::min(most, news.changes.size());
+            all.push_back(std::move(news));
+        }
+        *nextDue = std::min(*nextDue, record->changes.nextDue());
+    }
+    return all;
+}
+
+bool DirectoryRegistry::takeNewsOf(const QByteArray &directory, Record *record, qint64 now, size_t most,
+                                   DirectoryNews *news)
+{
+    const bool whole = record->moved || record->reset;
+    if (whole) {
+        now = PendingChanges::never; // what waits is told before it, or left out
+        most = std::numeric_limits<size_t>::max();
+    }
+    PendingChanges::Change change;
+    while (news->changes.size() < most && record->changes.takeDue(now, &change))
+        news->changes.push_back(change);
+    if (!whole && news->changes.empty())
+        return false;
+    news->directory = directory;
+    news->identity = record->identity;
+    news->shown = record->shown;
+    news->moved = std::exchange(record->moved, false);
+    news->reset = std::exchange(record->reset, false);
+    return true;
+}
+
+bool DirectoryRegistry::contains(const QByteArray &directory) const
+{
+    const Lock lock(m_mutex);
+    return m_records.contains(directory);
+}
+
+void DirectoryRegistry::remove(const QByteArray &directory)
+{
+    const Lock lock(m_mutex);
+    const auto record = m_records.find(directory);
+    if (record != m_records.end() && record->listings == 0) // otherwise it is wanted again
+        m_records.erase(record);
+}
+
+QList<QByteArray> DirectoryRegistry::takeUnused(int generous)
+{
+    const Lock lock(m_mutex);
+    QList<QByteArray> unused;
+    if (m_records.size() <= generous)
+        return unused;
+    for (auto record = m_records.begin(); record != m_records.end();) {
+        const bool used =
+            record->listings > 0 || std::any_of(record->shown.cbegin(), record->shown.cend(), isHeldElsewhere);
+        if (used) {
+            ++record;
+        } else {
+            unused.append(record.key());
+            record = m_records.erase(record);
+        }
+    }
+    return unused;
+}
+
+void DirectoryRegistry::clear()
+{
+    const Lock lock(m_mutex);
+    m_records.clear();
+}
+
+} // namespace VeskFM

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include "fileidentity.h"
+#include "pendingchanges.h"
+
+#include <veskplatform/vfs.h>
+
+#include <QHash>
+#include <QVector>
+
+#include <mutex>
+#include <vector>
+
+namespace VeskFM
+{
+
+/// One entry whose listing shows a directory: the directory itself, or a place that stands for it.
+struct ShownEntry
+{
+    Entry entry;
+    VFS::EntryChildFilters filters; // of its latest listing
+};
+
+/// What is to be told about one directory now.
+struct DirectoryNews
+{
+    QByteArray directory;
+    FileIdentity identity; // as it was last listed; without "exists" when nothing is known
+    QVector<ShownEntry> shown;
+    std::vector<PendingChanges::Change> changes;
+    bool moved = false; // it was deleted, or bears another path now
+    bool reset = false; // it must be listed again, whatever the changes say
+};
+
+/// The directories that were listed, who shows them, and what happened in them since.
+///
+/// News of a directory that is being listed wait until the listing has been told, so that none is lost in between.
+///
+/// Thread: any. Nothing here touches the disk or blocks.
+class DirectoryRegistry
+{
+public:
+    void beginListing(const QByteArray &directory, const Entry &entry, VFS::EntryChildFilters filters);
+    void setIdentity(const QByteArray &directory, const FileIdentity &identity);
+    void endListing(const QByteArray &directory);
+
+    void addChange(const QByteArray &directory, const QByteArray &name, PendingChanges::Kind kind, qint64 now);
+    void setMoved(const QByteArray &directory); ///< also checks the directories below it
+    void reset(const QByteArray &directory);
+    void resetAll();
+
+    /// Takes at most @p most changes whose time has come. @p nextDue: when to ask again, PendingChanges::never.
+    std::vector<DirectoryNews> takeNews(qint64 now, size_t most, qint64 *nextDue);
+
+    bool contains(const QByteArray &directory) const;
+    void remove(const QByteArray &directory);
+    /// Takes out the directories whose entries nobody else holds any more, if there are more than @p generous of all.
+    QList<QByteArray> takeUnused(int generous);
+    void clear();
+
+private:
+    struct Record
+    {
+        QVector<ShownEntry> shown;
+        FileIdentity identity;
+        PendingChanges changes;
+        int listings = 0; // under way
+        bool moved = false;
+        bool reset = false;
+    };
+    bool takeNewsOf(const QByteArray &directory, Record *record, qint64 now, size_t most, DirectoryNews *news);
+
+    mutable std::mutex m_mutex;
+    QHash<QByteArray, Record> m_records; // by path
+};
+
+} // namespace VeskFM
