@@ -279,7 +279,8 @@ void LocalEntryWatcher::tellReset(const DirectoryNews &news)
 
 void LocalEntryWatcher::tellVanished(const DirectoryNews &news)
 {
-    const bool toldByParent = m_reader.isWatching(parentDirectory(news.directory));
+    const QByteArray parent = parentDirectory(news.directory);
+    const bool toldByParent = m_reader.isWatching(parent) && FileIdentity::of(parent).exists; // not if that moved away
     m_registry.remove(news.directory);
     unwatch(news.directory);
     const QString directory = PathCodec::decode(news.directory);
