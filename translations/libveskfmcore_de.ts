@@ -1,3 +1,204 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="de_DE"/>
+<TS version="2.1" language="de">
+<context>
+    <name>CorePaths</name>
+    <message>
+        <source>copy</source>
+        <translation>Kopie</translation>
+    </message>
+</context>
+<context>
+    <name>EntryBasePropertySet</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>MIME type</source>
+        <translation>MIME-Typ</translation>
+    </message>
+    <message>
+        <source>symbolic link</source>
+        <translation>symbolische Verknüpfung</translation>
+    </message>
+</context>
+<context>
+    <name>FileInfo</name>
+    <message>
+        <source>File information</source>
+        <translation>Dateiinformationen</translation>
+    </message>
+    <message>
+        <source>Size, time of the last change, owner and permissions of files.</source>
+        <translation>Größe, Zeit der letzten Änderung, Besitzer und Rechte von Dateien.</translation>
+    </message>
+    <message>
+        <source>Permissions</source>
+        <translation>Rechte</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %n file(s)</source>
+        <translation>
+            <numerusform>%1 in %n Datei</numerusform>
+            <numerusform>%1 in %n Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <translation>Besitzer</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 B</translation>
+    </message>
+    <message>
+        <source>(various)</source>
+        <translation>(verschieden)</translation>
+    </message>
+    <message>
+        <source>Owner:</source>
+        <translation>Besitzer:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Gruppe:</translation>
+    </message>
+    <message>
+        <source>Permissions:</source>
+        <translation>Rechte:</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Andere</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lesen</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Schreiben</translation>
+    </message>
+    <message>
+        <source>Execute</source>
+        <translation>Ausführen</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>und %n weitere</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The permissions of these could not be read or changed:</source>
+        <translation>Die Rechte dieser Dateien konnten nicht gelesen oder geändert werden:</translation>
+    </message>
+</context>
+<context>
+    <name>IconSize</name>
+    <message>
+        <source>Tiny</source>
+        <translation>Winzig</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Groß</translation>
+    </message>
+    <message>
+        <source>Very Large</source>
+        <translation>Sehr groß</translation>
+    </message>
+    <message>
+        <source>Huge</source>
+        <translation>Riesig</translation>
+    </message>
+</context>
+<context>
+    <name>LocalPlaces</name>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Orte</translation>
+    </message>
+    <message>
+        <source>Storage devices</source>
+        <translation>Speichergeräte</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>Network resources</source>
+        <translation>Netzwerkressourcen</translation>
+    </message>
+    <message>
+        <source>File system</source>
+        <translation>Dateisystem</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Persönlicher Ordner</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Papierkorb</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>TB</translation>
+    </message>
+</context>
+</TS>

@@ -1,3 +1,206 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="ru_RU"/>
+<TS version="2.1" language="ru">
+<context>
+    <name>CorePaths</name>
+    <message>
+        <source>copy</source>
+        <translation>копия</translation>
+    </message>
+</context>
+<context>
+    <name>EntryBasePropertySet</name>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Тип</translation>
+    </message>
+    <message>
+        <source>MIME type</source>
+        <translation>Тип MIME</translation>
+    </message>
+    <message>
+        <source>symbolic link</source>
+        <translation>символическая ссылка</translation>
+    </message>
+</context>
+<context>
+    <name>FileInfo</name>
+    <message>
+        <source>File information</source>
+        <translation>Сведения о файлах</translation>
+    </message>
+    <message>
+        <source>Size, time of the last change, owner and permissions of files.</source>
+        <translation>Размер, время последнего изменения, владелец и права файлов.</translation>
+    </message>
+    <message>
+        <source>Permissions</source>
+        <translation>Права</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 in %n file(s)</source>
+        <translation>
+            <numerusform>%1 в %n файле</numerusform>
+            <numerusform>%1 в %n файлах</numerusform>
+            <numerusform>%1 в %n файлах</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Размер</translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation>Изменён</translation>
+    </message>
+    <message>
+        <source>Owner</source>
+        <translation>Владелец</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 Б</translation>
+    </message>
+    <message>
+        <source>(various)</source>
+        <translation>(разные)</translation>
+    </message>
+    <message>
+        <source>Owner:</source>
+        <translation>Владелец:</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Группа:</translation>
+    </message>
+    <message>
+        <source>Permissions:</source>
+        <translation>Права:</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Группа</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Остальные</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Чтение</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Запись</translation>
+    </message>
+    <message>
+        <source>Execute</source>
+        <translation>Выполнение</translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <translation>
+            <numerusform>и ещё %n</numerusform>
+            <numerusform>и ещё %n</numerusform>
+            <numerusform>и ещё %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The permissions of these could not be read or changed:</source>
+        <translation>Не удалось прочитать или изменить права этих файлов:</translation>
+    </message>
+</context>
+<context>
+    <name>IconSize</name>
+    <message>
+        <source>Tiny</source>
+        <translation>Крошечный</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Маленький</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Средний</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Большой</translation>
+    </message>
+    <message>
+        <source>Very Large</source>
+        <translation>Очень большой</translation>
+    </message>
+    <message>
+        <source>Huge</source>
+        <translation>Огромный</translation>
+    </message>
+</context>
+<context>
+    <name>LocalPlaces</name>
+    <message>
+        <source>Computer</source>
+        <translation>Компьютер</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation>Избранное</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Места</translation>
+    </message>
+    <message>
+        <source>Storage devices</source>
+        <translation>Устройства хранения</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Сеть</translation>
+    </message>
+    <message>
+        <source>Network resources</source>
+        <translation>Сетевые ресурсы</translation>
+    </message>
+    <message>
+        <source>File system</source>
+        <translation>Файловая система</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Домашняя папка</translation>
+    </message>
+    <message>
+        <source>Trash</source>
+        <translation>Корзина</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>B</source>
+        <translation>Б</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>КБ</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>МБ</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>ГБ</translation>
+    </message>
+    <message>
+        <source>TB</source>
+        <translation>ТБ</translation>
+    </message>
+</context>
+</TS>
