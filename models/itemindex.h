@@ -23,7 +23,7 @@ class ItemIndex
 public:
     using Items = QVarLengthArray<ModelItem *, 4>;
 
-    static uint hashOf(const Entry &entry) { return qHash(entry); }
+    static uint hashOf(const Entry &entry) { return qMax(1u, qHash(entry)); } ///< never 0
 
     void reserve(size_t count); ///< room for @p count items in all
     void insert(ModelItem *item, uint hash);
@@ -37,11 +37,11 @@ public:
 
 private:
     size_t slotOf(uint hash) const;
-    size_t next(size_t slot) const { return slot + 1 == m_items.size() ? 0 : slot + 1; }
+    size_t next(size_t slot) const { return (slot + 1) & (m_hashes.size() - 1); }
     void rehash(size_t slots);
 
-    std::vector<uint> m_hashes;       // apart from the items, so that probing stays within a cache line
-    std::vector<ModelItem *> m_items; // null where free; the length is a power of two, or 0
+    std::vector<uint> m_hashes;       // 0 where free; the length is a power of two, or 0
+    std::vector<ModelItem *> m_items; // apart, so that probing stays within few cache lines
     size_t m_size = 0;
 };
 

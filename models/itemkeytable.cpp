@@ -3,7 +3,7 @@
 
 #include "itemkeytable.h"
 
-#include "naturalcompare.h"
+#include <veskfm/modelitem.h>
 
 #include <QDateTime>
 
@@ -31,6 +31,19 @@ quint64 ascending(double number)
     return bits & signBit ? ~bits : bits | signBit;
 }
 
+/// Fetches what reading the keys of @p items, now at @p position, soon needs. Rows lie anywhere in memory, and waiting
+/// for it took a quarter of a sort.
+void prefetch(const std::vector<ModelItem *> &items, size_t position)
+{
+    constexpr size_t distance = 8; // some hundred nanoseconds of work
+    if (position + 2 * distance >= items.size())
+        return;
+    __builtin_prefetch(items[position + 2 * distance]);
+    const ModelItem *const soon = items[position + distance];
+    __builtin_prefetch(soon->entry().data());
+    __builtin_prefetch(soon->dataHolder());
+}
+
 qint64 rankOf(const ItemKey &key)
 {
     constexpr qint64 behindDotDot = qint64(1) << 40; // beyond any difference of place indexes or kinds
@@ -46,8 +59,10 @@ ItemKeyTable::ItemKeyTable(const std::vector<ModelItem *> &items, const ItemComp
     , m_isDescending(comparison.isDescending())
 {
     m_keys.reserve(items.size());
-    for (const ModelItem *item : items)
-        m_keys.push_back(comparison.key(item));
+    for (size_t i = 0; i < items.size(); ++i) {
+        prefetch(items, i);
+        m_keys.push_back(comparison.key(items[i]));
+    }
     judge();
     if (!m_isStrictWeakOrder)
         return;
@@ -56,7 +71,8 @@ ItemKeyTable::ItemKeyTable(const std::vector<ModelItem *> &items, const ItemComp
     m_elements.reserve(items.size());
     for (const ItemKey &key : m_keys) {
         const bool isNumber = compares && m_values != Values::Texts && !key.isPlace;
-        m_elements.push_back({rankOf(key), isNumber ? numberPrefix(key.value) : 0, quint32(m_elements.size())});
+        const KeyPrefix prefix = {isNumber ? numberPrefix(key.value) : 0, 0};
+        m_elements.push_back({rankOf(key), prefix, quint32(m_elements.size())});
     }
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "itemcomparison.h"
+#include "naturalcompare.h"
 
 #include <vector>
 
@@ -18,9 +19,9 @@ class ItemKeyTable
 public:
     struct Element
     {
-        qint64 rank;    // "..", places and groups of kinds
-        quint64 prefix; // first part of the value, ascending whatever the sort order; 0 before pack()
-        quint32 key;    // position of the item in the list that the table was made from
+        qint64 rank;      // "..", places and groups of kinds
+        KeyPrefix prefix; // of the value, ascending whatever the sort order; zero before pack()
+        quint32 key;      // position of the item in the list that the table was made from
     };
 
     ItemKeyTable(const std::vector<ModelItem *> &items, const ItemComparison &comparison);
@@ -36,8 +37,8 @@ public:
     {
         if (a.rank != b.rank)
             return a.rank < b.rank;
-        if (a.prefix != b.prefix)
-            return m_isDescending ? a.prefix > b.prefix : a.prefix < b.prefix;
+        if (!(a.prefix == b.prefix))
+            return m_isDescending ? b.prefix < a.prefix : a.prefix < b.prefix;
         return m_valuesLeft && (m_isDescending ? compare(b.key, a.key) : compare(a.key, b.key)) < 0;
     }
 

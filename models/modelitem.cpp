@@ -323,11 +323,12 @@ void ModelItem::resort()
     if (!m_model || !m_children)
         return;
     const int property = m_model->propertySortIndex();
-    m_children->forEach([property](ModelItem *child) {
+    const std::vector<ModelItem *> children = childItems();
+    for (ModelItem *child : children) {
         child->refinePropertyAtIndex(property);
         child->resort();
-    });
-    setChildItems(sortedItems(childItems(), ItemComparison(this)));
+    }
+    setChildItems(sortedItems(children, ItemComparison(this)));
 }
 
 } // namespace VeskFM

@@ -48,22 +48,27 @@ int compareDigits(const ushort *a, const ushort *b, qsizetype count)
     return 0;
 }
 
-/// Fills a 64-bit number from its highest byte down.
+/// Fills a prefix from its highest byte down.
 class PrefixPacker
 {
 public:
-    bool isFull() const { return m_shift < 0; }
+    bool isFull() const { return m_used == capacity; }
     void put(uint byte)
     {
-        m_value |= quint64(byte) << m_shift;
-        m_shift -= 8;
+        if (isFull())
+            return;
+        quint64 &half = m_used < capacity / 2 ? m_prefix.high : m_prefix.low;
+        half |= quint64(byte) << (56 - 8 * (m_used % (capacity / 2)));
+        ++m_used;
     }
-    void close() { m_shift = -1; }
-    quint64 value() const { return m_value; }
+    void close() { m_used = capacity; }
+    KeyPrefix prefix() const { return m_prefix; }
 
 private:
-    quint64 m_value = 0;
-    int m_shift = 56;
+    static constexpr int capacity = sizeof(KeyPrefix);
+
+    KeyPrefix m_prefix;
+    int m_used = 0;
 };
 
 constexpr uint beyondByte = 0xff;    // stands for this code unit and all above: nothing behind it can be told apart
@@ -133,7 +138,7 @@ int naturalCompare(QStringView a, QStringView b)
     return plain;
 }
 
-quint64 naturalPrefix(QStringView text, qsizetype skip)
+KeyPrefix naturalPrefix(QStringView text, qsizetype skip)
 {
     const ushort *const units = reinterpret_cast<const ushort *>(text.utf16());
     PrefixPacker packer;
@@ -147,16 +152,16 @@ quint64 naturalPrefix(QStringView text, qsizetype skip)
             putUnit(packer, units[i++]);
         }
     }
-    return packer.value();
+    return packer.prefix();
 }
 
-quint64 codeUnitPrefix(QStringView text, qsizetype skip)
+KeyPrefix codeUnitPrefix(QStringView text, qsizetype skip)
 {
     const ushort *const units = reinterpret_cast<const ushort *>(text.utf16());
     PrefixPacker packer;
     for (qsizetype i = skip; i < text.size() && !packer.isFull(); ++i)
         putUnit(packer, units[i]);
-    return packer.value();
+    return packer.prefix();
 }
 
 qsizetype commonPrefixLength(QStringView text, QStringView other, qsizetype length)

@@ -15,10 +15,25 @@ namespace VeskFM
 /// Returns a negative, zero or positive number.
 int naturalCompare(QStringView a, QStringView b);
 
-/// The first few characters as a number: where those of two texts differ, the texts compare likewise; where they are
-/// equal, only the whole texts tell. @p skip characters, which all texts have in common, are left out.
-quint64 naturalPrefix(QStringView text, qsizetype skip);
-quint64 codeUnitPrefix(QStringView text, qsizetype skip); ///< the same for the plain order of code units
+/// The first part of a sort key as a number. Where those of two texts differ, the texts compare likewise; where they are
+/// equal, only the whole texts tell.
+struct KeyPrefix
+{
+    quint64 high = 0;
+    quint64 low = 0;
+};
+inline bool operator==(const KeyPrefix &a, const KeyPrefix &b)
+{
+    return a.high == b.high && a.low == b.low;
+}
+inline bool operator<(const KeyPrefix &a, const KeyPrefix &b)
+{
+    return a.high != b.high ? a.high < b.high : a.low < b.low;
+}
+
+/// @param skip characters that all texts begin with, to be left out, see commonPrefixLength()
+KeyPrefix naturalPrefix(QStringView text, qsizetype skip);
+KeyPrefix codeUnitPrefix(QStringView text, qsizetype skip); ///< for the plain order of code units
 
 /// How many leading characters of the @p length first ones @p text has in common with @p other; it never ends within
 /// or right behind a run of digits.
