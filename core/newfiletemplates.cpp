@@ -80,7 +80,7 @@ QList<NewFileTemplate> readTemplates(const QDir &directory)
 
 struct CachedTemplates
 {
-    QDateTime modified;
+    QDateTime modified; // of the directory; invalid to read it again
     QList<NewFileTemplate> templates;
 };
 
@@ -94,8 +94,12 @@ QList<NewFileTemplate> templatesIn(const QString &path)
     const QMutexLocker lock(&mutex);
     CachedTemplates &cached = cache[path];
     const QDateTime modified = directory.lastModified();
-    if (cached.modified != modified)
-        cached = {modified, readTemplates(QDir(path))};
+    if (cached.modified != modified) {
+        // A change in the same tick of the file system's clock, after this reading, would leave the time as it is.
+        constexpr int clockTickMs = 20;
+        const bool isSettled = modified.msecsTo(QDateTime::currentDateTime()) > clockTickMs;
+        cached = {isSettled ? modified : QDateTime(), readTemplates(QDir(path))};
+    }
     return cached.templates;
 }
 

@@ -26,8 +26,10 @@ void SingletoneReleaser::connectToQuit()
     if (m_connectedToQuit || !application)
         return;
     if (thread() == QThread::currentThread())
-        moveToThread(application->thread()); // made by a worker, whose thread may be gone when the application quits
-    connect(application, &QCoreApplication::aboutToQuit, this, &SingletoneReleaser::releaseSingletones);
+        moveToThread(application->thread());
+    // Direct: made by a worker before there was an application, the releaser belongs to a thread that may be gone.
+    connect(application, &QCoreApplication::aboutToQuit, this, &SingletoneReleaser::releaseSingletones,
+            Qt::DirectConnection);
     m_connectedToQuit = true;
 }
 

@@ -49,7 +49,9 @@ private:
 
 /// The tracer costs nothing in a build without VESKFM_TRACE. A value may be anything that QDebug prints.
 #ifdef VESKFM_TRACE
-#define VESK_TRACE_SCOPE() const ::VeskFM::TracerScope veskTracerScope(__FILE__, __func__, __LINE__)
+#define VESK_TRACE_JOINED(a, b) a##b
+#define VESK_TRACE_NAME(line) VESK_TRACE_JOINED(veskTracerScope, line)
+#define VESK_TRACE_SCOPE() const ::VeskFM::TracerScope VESK_TRACE_NAME(__LINE__)(__FILE__, __func__, __LINE__)
 #define VESK_TRACE_MARK() ::VeskFM::Tracer::mark(__FILE__, __func__, __LINE__)
 #define VESK_TRACE_VALUE(expr)                                                                                         \
     do {                                                                                                               \

@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "testtree.h"
+
+#include <veskfm/appinfo.h>
+#include <veskfm/processinfo.h>
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusPendingCall>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+#include <QTest>
+
+using namespace VeskFM;
+
+/// Answers with what it got.
+class Echo : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "test.Echo")
+
+public Q_SLOTS:
+    VeskFM::AppInfoList echo(const VeskFM::AppInfoList &infos) { return infos; }
+};
+
+class AppInfoTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void namesByTheCommand();
+    void anyFieldMakesItAnother();
+    void readsDesktopEntries();
+    void findsTheOriginOfACopy();
+    void knowsTheStandardDirectories();
+    void crossesTheBus();
+    void isPrinted();
+    void typesAreRegisteredAtLoadTime();
+
+private:
+    /// Writes a desktop entry below the user's applications directory. Returns its path.
+    static QString install(const QString &name, const QByteArray &more);
+};
+
+QString AppInfoTest::install(const QString &name, const QByteArray &more)
+{
+    const QString path =
+        QStandardPaths::writableLocation(QStandardPaths::ApplicationsLocation) + QLatin1Char('/') + name;
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    file.open(QIODevice::WriteOnly);
+    file.write("[Desktop Entry]\nType=Application\n" + more);
+    return path;
+}
+
+void AppInfoTest::namesByTheCommand()
+{
+    QCOMPARE(AppInfo::nameByExec(QStringLiteral("foo --new")), QStringLiteral("foo"));
+    QCOMPARE(AppInfo::nameByExec(QStringLiteral("editor /home/user/a.png b")), QStringLiteral("a.png"));
+    QCOMPARE(AppInfo::nameByExec(QStringLiteral("run /")), QString());
+    AppInfo info;
+    info.setExec(QStringLiteral("/usr/bin/foo %U"));
+    QCOMPARE(info.name(), QStringLiteral("foo"));
+    info.setExec(QStringLiteral("bar"));
+    QCOMPARE(info.name(), QStringLiteral("foo")); // it has a name now
+}
+
+void AppInfoTest::anyFieldMakesItAnother()
+{
+    AppInfo info;
+    QVERIFY(info.isNull());
+    info.setTerminal(true);
+    QVERIFY(!info.isNull() && info != AppInfo());
+    info = {};
+    info.setSourceType(AppInfo::DesktopEntryFile);
+    QVERIFY(!info.isNull());
+}
+
+void AppInfoTest::readsDesktopEntries()
+{
+    const QByteArray entry =
+        "Name=Editor\nGenericName=Text Editor\nExec=/opt/edit %f\nIcon=no-theme-has-this\nTerminal=true\n";
+    const QString path = install(QStringLiteral("one/two/editor.desktop"), entry);
+    install(QStringLiteral("one/two/three/deep.desktop"), entry);
+    const AppInfo info = AppInfo::appInfo(QStringLiteral("editor.desktop"));
+    QCOMPARE(info, AppInfo::appInfo(path));
+    QCOMPARE(info.name(), QStringLiteral("Editor"));
+    QCOMPARE(info.comment(), QStringLiteral("Text Editor")); // there is no better one
+    QCOMPARE(info.desktopSourceFilePath(), path);
+    QCOMPARE(info.icon(), QStringLiteral("system-run")); // no theme has the named one
+    QVERIFY(info.source() == AppInfo::DesktopEntryFile && info.terminal());
+    QVERIFY(AppInfo::appInfo(QStringLiteral("deep.desktop")).isNull()); // more than two levels down
+    QVERIFY(AppInfo::appInfo(QStringLiteral("/missing.desktop")).isNull());
+    QVERIFY(AppInfo::appInfo(QString()).isNull());
+}
+
+void AppInfoTest::findsTheOriginOfACopy()
+{
+    const QString origin = install(QStringLiteral("origin.desktop"), "Name=Origin\nExec=a\n");
+    const auto originOf = [](const QByteArray &key) {
+        TestTree tree;
+        tree.write("copy.desktop",
+                   "[Desktop Entry]\nType=Application\nName=Copy\nExec=b\nX-Vesk-OriginFile=" + key + '\n');
+        return AppInfo::appInfoForOriginFile(tree.path(QStringLiteral("copy.desktop"))).name();
+    };
+    QCOMPARE(originOf(origin.toUtf8()), QStringLiteral("Origin"));
+    QCOMPARE(originOf(QFileInfo(origin).path().toUtf8() + "/sub/origin.desktop"),
+             QStringLiteral("Copy")); // no plain id
+    QCOMPARE(originOf("/elsewhere/origin.desktop"), QStringLiteral("Copy"));
+    QCOMPARE(originOf(""), QStringLiteral("Copy"));
+}
+
+void AppInfoTest::knowsTheStandardDirectories()
+{
+    const QString path = install(QStringLiteral("installed.desktop"), "Name=x\nExec=x\n");
+    QVERIFY(AppInfo::appInfo(path).isFromStandardDirs());
+    AppInfo beside;
+    beside.setSource(AppInfo::DesktopEntryFile, QFileInfo(path).path() + QLatin1String("-2/x.desktop"));
+    QVERIFY(!beside.isFromStandardDirs());
+    QVERIFY(!AppInfo().isFromStandardDirs());
+}
+
+void AppInfoTest::crossesTheBus()
+{
+    AppInfo info;
+    info.setName(QStringLiteral("n"));
+    info.setComment(QStringLiteral("c"));
+    info.setExec(QStringLiteral("e"));
+    info.setIcon(QStringLiteral("i"));
+    info.setSource(AppInfo::DesktopEntryFile, QStringLiteral("/p"));
+    info.setTerminal(true);
+    QCOMPARE(QDBusMetaType::typeToSignature(qMetaTypeId<AppInfo>()), "(sssssib)");
+    QCOMPARE(QDBusMetaType::typeToSignature(qMetaTypeId<AppInfoList>()), "a(sssssib)");
+
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    Echo echo;
+    QVERIFY(bus.registerObject(QStringLiteral("/Echo"), &echo, QDBusConnection::ExportAllSlots));
+    QDBusMessage call = QDBusMessage::createMethodCall(bus.baseService(), QStringLiteral("/Echo"),
+                                                       QStringLiteral("test.Echo"), QStringLiteral("echo"));
+    call << QVariant::fromValue(AppInfoList({info, AppInfo()}));
+    QDBusConnection other = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("other"));
+    QDBusPendingCall pending = other.asyncCall(call);
+    QTRY_VERIFY(pending.isFinished());
+    QCOMPARE(pending.reply().type(), QDBusMessage::ReplyMessage);
+    QCOMPARE(qdbus_cast<AppInfoList>(pending.reply().arguments().value(0)), AppInfoList({info, AppInfo()}));
+}
+
+void AppInfoTest::isPrinted()
+{
+    QString text;
+    QDebug(&text) << AppInfo();
+    QVERIFY2(text.startsWith(QLatin1String("VeskFM::AppInfo(")) && text.contains(QLatin1String(",1,")),
+             qPrintable(text));
+}
+
+void AppInfoTest::typesAreRegisteredAtLoadTime()
+{
+    for (const char *name : {"QModelIndexList", "QItemSelection", "VeskFM::AppInfo", "VeskFM::AppInfoList",
+                             "VeskFM::ProcessInfo", "VeskFM::ProcessInfoList", "VeskFM::Entry", "VeskFM::EntryList"})
+        QVERIFY2(QMetaType::type(name) != QMetaType::UnknownType, name);
+    QVERIFY(QVariant::fromValue(AppInfoList()).canConvert<QVariantList>());
+    QVERIFY(QVariant::fromValue(ProcessInfoList({ProcessInfo()})).value<QSequentialIterable>().size() == 1);
+}
+
+QTEST_MAIN(AppInfoTest)
+#include "appinfotest.moc"

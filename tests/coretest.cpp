@@ -1,0 +1,260 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "testtree.h"
+
+#include <fixedplaces.h>
+#include <veskfm/core.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QScreen>
+#include <QTest>
+#include <QWidget>
+
+#include <csignal>
+
+#include <unistd.h>
+
+using namespace VeskFM;
+
+namespace
+{
+
+void say(const char *text)
+{
+    (void)!write(STDOUT_FILENO, text, strlen(text));
+}
+
+/// What this program does as a child of itself, where a signal or a fatal message ends it.
+int runChild(const QString &mode)
+{
+    if (mode == QLatin1String("messages")) {
+        qDebug("100%% %s", "%s %n");
+        qInfo("never");
+        Core::setDebugOutputEnabled(false);
+        qDebug("dropped");
+        qWarning("two\nlines");
+        qCritical("c");
+        qFatal("f");
+    }
+    Core::addHaltHandler([](Core::HaltReason reason) {
+        say(reason == Core::Crashed ? "crashed " : "terminated ");
+        Core::addHaltHandler([](Core::HaltReason) { say("late "); });
+    });
+    Core::addHaltHandler([](Core::HaltReason) { say("second "); });
+    Core::installHaltSignalHandler();
+    raise(mode.toInt());
+    return 0; // not reached: the default action ends the process
+}
+
+struct ChildResult
+{
+    int signal = 0;
+    QByteArray output;
+    QByteArray errors;
+};
+
+ChildResult runInChild(const QString &mode)
+{
+    // Through a shell, which keeps core images from being written.
+    QProcess child;
+    child.start(QStringLiteral("/bin/sh"),
+                {QStringLiteral("-c"), QStringLiteral("ulimit -c 0; exec \"$0\" --child $1"),
+                 QCoreApplication::applicationFilePath(), mode});
+    child.waitForFinished();
+    return {child.exitStatus() == QProcess::CrashExit ? child.exitCode() : 0, child.readAllStandardOutput(),
+            child.readAllStandardError()};
+}
+
+/// A script that writes what it was started with, and then, as a sign that it is done, renames that to @p result.
+QByteArray reporter(const QString &result)
+{
+    return "#!/bin/sh\n"
+           "echo \"$*|$(pwd)|${DISPLAY-unset}|${GIVEN-unset}\" > '"
+        + result.toLocal8Bit() + ".part'\nmv '" + result.toLocal8Bit() + ".part' '" + result.toLocal8Bit() + "'\n";
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+}
+
+} // namespace
+
+class CoreTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sizeTexts_data();
+    void sizeTexts();
+    void hashesTexts();
+    void startsCommandLines();
+    void startsProgramsWithVariables();
+    void startsOnTheRootDisplay();
+    void restoresTheEnvironmentAfterAFailedStart();
+    void listsTheEffectiveGroup();
+    void placesWidgets();
+    void printsMessagesWithTheirLevel();
+    void runsHaltHandlersAndThenTheDefaultAction_data();
+    void runsHaltHandlersAndThenTheDefaultAction();
+};
+
+void CoreTest::sizeTexts_data()
+{
+    QTest::addColumn<qlonglong>("size");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("nothing") << 0LL << "0 B";
+    QTest::newRow("negative") << -5LL << "-5 B";
+    QTest::newRow("negative and large") << -(1LL << 40) << "-1099511627776 B";
+    QTest::newRow("last byte") << 1023LL << "1023 B";
+    QTest::newRow("first kilobyte") << 1024LL << "1.00 KB";
+    QTest::newRow("fraction") << 1536LL << "1.50 KB";
+    QTest::newRow("unit before rounding") << 1048575LL << "1024.00 KB";
+    QTest::newRow("gigabyte") << (1LL << 30) << "1.00 GB";
+    QTest::newRow("no unit above tera") << (1LL << 51) << "2048.00 TB";
+    QTest::newRow("largest") << std::numeric_limits<qlonglong>::max() << "8388608.00 TB";
+}
+
+void CoreTest::sizeTexts()
+{
+    QFETCH(const qlonglong, size);
+    QTEST(Core::dataSizeAsString(size), "text");
+}
+
+void CoreTest::hashesTexts()
+{
+    QCOMPARE(Core::md5HashForString({}), QStringLiteral("d41d8cd98f00b204e9800998ecf8427e"));
+    QCOMPARE(Core::md5HashForString(QStringLiteral("abc")), QStringLiteral("900150983cd24fb0d6963f7d28e17f72"));
+}
+
+void CoreTest::startsCommandLines()
+{
+    TestTree tree;
+    const QString result = tree.path(QStringLiteral("result"));
+    tree.write("run it", reporter(result));
+    const QString script = tree.path(QStringLiteral("run it"));
+    QFile::setPermissions(script, QFile::permissions(script) | QFile::ExeOwner);
+    QVERIFY(Core::startProcess(QStringLiteral("\"%1\"  one \"two three\"").arg(script)));
+    QTRY_VERIFY(contentOf(result).startsWith("one two three|"));
+    QVERIFY(!Core::startProcess(QString()));
+    QVERIFY(!Core::startProcess(QStringLiteral("   ")));
+    QVERIFY(!Core::startProcess(tree.path(QStringLiteral("missing"))));
+}
+
+void CoreTest::startsProgramsWithVariables()
+{
+    TestTree tree({"work/"});
+    const QString result = tree.path(QStringLiteral("result"));
+    tree.write("script", reporter(result));
+    qunsetenv("GIVEN");
+    qputenv("DISPLAY", "");
+    QProcessEnvironment variables;
+    variables.insert(QStringLiteral("GIVEN"), QStringLiteral("yes"));
+    variables.insert(QStringLiteral("DISPLAY"), QStringLiteral(":3"));
+    QVERIFY(Core::startProcess(QStringLiteral("/bin/sh"), {tree.path(QStringLiteral("script")), QStringLiteral("a b")},
+                               tree.path(QStringLiteral("work")), variables));
+    QVERIFY(qgetenv("GIVEN").isNull());
+    QVERIFY(qEnvironmentVariableIsSet("DISPLAY") && qEnvironmentVariableIsEmpty("DISPLAY")); // empty is not unset
+    QTRY_COMPARE(contentOf(result), "a b|" + tree.bytes("work") + "|:3|yes");
+    qunsetenv("DISPLAY");
+}
+
+void CoreTest::startsOnTheRootDisplay()
+{
+    const QString tool = QStringLiteral(VESKFM_ROOT_DISPLAY_TOOL);
+    if (!tool.startsWith(QFileInfo(QCoreApplication::applicationDirPath()).path()))
+        QSKIP("the root-display tool is not in the build tree");
+    TestTree tree;
+    const QString result = tree.path(QStringLiteral("result"));
+    QFile script(tool);
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write(reporter(result));
+    script.close();
+    script.setPermissions(script.permissions() | QFile::ExeOwner);
+    qputenv("ROOT_DISPLAY", ":5");
+    qputenv("DISPLAY", ":0");
+
+    QVERIFY(Core::startProcess(QStringLiteral("xterm \"a  b\"")));
+    QCOMPARE(qgetenv("DISPLAY"), QByteArray(":0"));
+    QTRY_VERIFY(contentOf(result).startsWith("xterm a  b|"));
+    QVERIFY(contentOf(result).contains("|:5|"));
+
+    QVERIFY(QFile::remove(result));
+    QProcessEnvironment variables;
+    variables.insert(QStringLiteral("DISPLAY"), QStringLiteral(":7"));
+    QVERIFY(Core::startProcess(QStringLiteral("xterm"), {QStringLiteral("-e")}, tree.path(), variables));
+    QCOMPARE(qgetenv("DISPLAY"), QByteArray(":0"));
+    QTRY_COMPARE(contentOf(result), "xterm -e|" + tree.bytes() + "|:5|unset");
+    QFile::remove(tool);
+    qunsetenv("DISPLAY");
+    qunsetenv("ROOT_DISPLAY");
+}
+
+void CoreTest::restoresTheEnvironmentAfterAFailedStart()
+{
+    qputenv("ROOT_DISPLAY", ":5");
+    qunsetenv("DISPLAY");
+    QVERIFY(!Core::startProcess(QStringLiteral("xterm"))); // the tool is not there
+    QVERIFY(!qEnvironmentVariableIsSet("DISPLAY"));
+    qunsetenv("ROOT_DISPLAY");
+}
+
+void CoreTest::listsTheEffectiveGroup()
+{
+    QCOMPARE(Core::currentProcessGroups().value(getegid()), Entry::groupName(getegid()));
+}
+
+void CoreTest::placesWidgets()
+{
+    Core::moveForCenter(nullptr);
+    Core::moveForPresentation(nullptr);
+    const QSize area = QGuiApplication::primaryScreen()->availableGeometry().size();
+    QWidget widget;
+    widget.setGeometry(30, 40, 201, 100);
+    Core::moveForCenter(&widget); // mapped from global to the widget: less where it was before
+    QCOMPARE(widget.pos(), QPoint((area.width() - 201) / 2 - 30, (area.height() - 100) / 2 - 40));
+    widget.move(0, 0);
+    Core::moveForPresentation(&widget);
+    QCOMPARE(widget.pos(), QPoint(area.width() / 4, area.height() / 4));
+}
+
+void CoreTest::printsMessagesWithTheirLevel()
+{
+    const ChildResult child = runInChild(QStringLiteral("messages"));
+    QCOMPARE(child.errors, QByteArray("debug: 100% %s %n\nwarning: two\nlines\ncritical: c\nfatal: f\n"));
+    QCOMPARE(child.signal, SIGABRT);
+}
+
+void CoreTest::runsHaltHandlersAndThenTheDefaultAction_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<QByteArray>("output");
+    QTest::newRow("interrupted") << SIGINT << QByteArray("terminated second late ");
+    QTest::newRow("terminated") << SIGTERM << QByteArray("terminated second late ");
+    QTest::newRow("crashed") << SIGSEGV << QByteArray("crashed second late ");
+}
+
+void CoreTest::runsHaltHandlersAndThenTheDefaultAction()
+{
+    QFETCH(const int, signal);
+    const ChildResult child = runInChild(QString::number(signal));
+    QTEST(child.output, "output");
+    QCOMPARE(child.signal, signal);
+}
+
+int main(int argc, char **argv)
+{
+    if (argc == 3 && qstrcmp(argv[1], "--child") == 0)
+        return runChild(QString::fromLocal8Bit(argv[2]));
+    QApplication application(argc, argv);
+    CoreTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "coretest.moc"

@@ -1,0 +1,370 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include <veskfm/global.h>
+#include <veskfm/settings.h>
+#include <veskplatform/veskdirs.h>
+
+#include <KUser>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+using namespace VeskFM;
+
+static int sessionKind = 0;
+
+// In front of the platform's own.
+Q_DECL_EXPORT int whatVeskSession()
+{
+    return sessionKind;
+}
+
+class SettingsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void startsWithDefaults();
+    void convertsWhatItReads_data();
+    void convertsWhatItReads();
+    void settersWriteTheirKeyOnly_data();
+    void settersWriteTheirKeyOnly();
+    void writesNothingForAnEqualValue();
+    void noticesOtherProcesses();
+    void noticesTwoWritesWithinOneSecond();
+    void readsAgainWithinOneClockTick();
+    void slotsMayChangeSettings();
+    void leavesABrokenFileUntouchedUntilItIsRepaired();
+    void keepsChangesWhileTheFolderCannotBeWritten();
+    void hiddenToolBarActionsDefault();
+    void kioskModes_data();
+    void kioskModes();
+    void kioskExecs();
+    void oneInstance();
+
+private:
+    static QString path() { return QSettings(QStringLiteral("tessaro"), QStringLiteral("vesk-fm")).fileName(); }
+    static QByteArray content();
+    static void write(const QByteArray &text); // in place, as another process may do
+
+    std::unique_ptr<Settings> m_settings;
+};
+
+void SettingsTest::init()
+{
+    sessionKind = 0;
+    QFile::remove(path());
+    m_settings = std::make_unique<Settings>();
+}
+
+void SettingsTest::cleanup()
+{
+    m_settings.reset();
+}
+
+QByteArray SettingsTest::content()
+{
+    QFile file(path());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void SettingsTest::write(const QByteArray &text)
+{
+    QDir().mkpath(QFileInfo(path()).path());
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text);
+}
+
+void SettingsTest::startsWithDefaults()
+{
+    QCOMPARE(m_settings->serviceLifeTime(), 20000);
+    QCOMPARE(m_settings->trashSize(), 2048ULL);
+    QCOMPARE(m_settings->useMetaInfoForDirNames(), !KUser(KUser::UseEffectiveUID).isSuperUser());
+    QCOMPARE(m_settings->shownThumbnailGroups(), QStringList("image"));
+    QCOMPARE(m_settings->hiddenTreeItems(), m_settings->isAdmin() ? QStringList() : QStringList("FileSystem"));
+    QCOMPARE(m_settings->zarnelVersion(), 8);
+    QVERIFY(m_settings->autoOpenEcryptedArchives() && m_settings->isNumericSortingEnabled());
+    QVERIFY(!m_settings->isLocaleSortingEnabled() && !m_settings->isKioskMode());
+    QVERIFY(!QFile::exists(path())); // reading writes no defaults
+}
+
+using Getter = QVariant (*)(const Settings &);
+Q_DECLARE_METATYPE(Getter)
+
+void SettingsTest::convertsWhatItReads_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<Getter>("getter");
+    QTest::addColumn<QVariant>("value");
+    const auto row = [](const char *line, Getter getter, const QVariant &value) {
+        QTest::newRow(line) << QByteArray(line) << getter << value;
+    };
+    const Getter version = [](const Settings &s) { return QVariant(s.zarnelVersion()); };
+    row("zarnelVersion=12", version, 8);
+    row("zarnelVersion=3", version, 6);
+    row("zarnelVersion=7", version, 7);
+    row(
+        "serviceLifeTime=many", [](const Settings &s) { return QVariant(s.serviceLifeTime()); }, 0);
+    const Getter undo = [](const Settings &s) { return QVariant(s.enableUndoAction()); };
+    row("enableUndoAction=garbage", undo, true); // the toolkit's rule
+    row("enableUndoAction=0", undo, false);
+    row(
+        "trashSize=18446744073709551615", [](const Settings &s) { return QVariant(s.trashSize()); }, ~0ULL);
+    const Getter categories = [](const Settings &s) { return QVariant(s.hiddenCategories()); };
+    row("hiddenCategories=one", categories, QStringList("one"));
+    row("hiddenCategories=one, two", categories, QStringList({"one", "two"}));
+    row(
+        "shownThumbnailGroups=@Invalid()", [](const Settings &s) { return QVariant(s.shownThumbnailGroups()); },
+        QStringList());
+    row(
+        "autoOpenEcryptedArchives=false", [](const Settings &s) { return QVariant(s.autoOpenEcryptedArchives()); },
+        false);
+}
+
+void SettingsTest::convertsWhatItReads()
+{
+    QFETCH(const QByteArray, line);
+    QFETCH(const Getter, getter);
+    write("a line of garbage spoils no other\n[Global]\n" + line + '\n');
+    QTEST(getter(Settings()), "value");
+}
+
+using Change = void (*)(Settings &);
+Q_DECLARE_METATYPE(Change)
+
+void SettingsTest::settersWriteTheirKeyOnly_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QByteArray>("changed");
+    const auto row = [](Change change, const char *line, const char *changed) {
+        QTest::newRow(line) << change << QByteArray(line) << QByteArray(changed);
+    };
+    row([](Settings &s) { s.setServiceLifeTime(20000); }, "serviceLifeTime=20000", "");
+    row([](Settings &s) { s.setTrashSize(~0ULL); }, "trashSize=18446744073709551615", "");
+    row([](Settings &s) { s.setUseMetaInfoForDirNames(!s.useMetaInfoForDirNames()); },
+        "useMetaInfoForDirNames=", "useMetaInfoForDirsChanged");
+    row([](Settings &s) { s.setUseMetaInfoForDirIcons(false); }, "useMetaInfoForDirIcons=false",
+        "useMetaInfoForDirsChanged");
+    row([](Settings &s) { s.setMaxImageFileSizeToShowThumbnailMB(5); }, "maxImageFileSizeToShowThumbnailMB=5",
+        "maxImageFileSizeToShowThumbnailChanged");
+    row([](Settings &s) { s.setShowDeleteItemInDirViewCtxMenu(false); }, "showDeleteItemInDirViewCtxMenu=false", "");
+    row([](Settings &s) { s.setNumericSortingEnabled(false); }, "numericSorting=false", "numericSortingEnabledChanged");
+    row([](Settings &s) { s.setHiddenTreeItems(QStringList("a") << "b"); }, "hiddenTreeItems=a, b",
+        "hiddenTreeItemsChanged");
+    row([](Settings &s) { s.setHiddenToolBarActions({"x"}); }, "hiddenToolBarActions=x", "hiddenToolBarActionsChanged");
+    row([](Settings &s) { s.setFollowSmbToNetworkResources(true); }, "followSmbToNetworkResource=true", "");
+    row([](Settings &s) { s.setHiddenCategories({"x"}); }, "hiddenCategories=x", "hiddenCategoriesChanged");
+}
+
+void SettingsTest::settersWriteTheirKeyOnly()
+{
+    QFETCH(const Change, change);
+    QFETCH(const QByteArray, line);
+    QFETCH(const QByteArray, changed);
+    const QMetaObject &meta = Settings::staticMetaObject;
+    std::vector<std::unique_ptr<QSignalSpy>> spies;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        if (meta.method(i).methodType() == QMetaMethod::Signal)
+            spies.push_back(std::make_unique<QSignalSpy>(m_settings.get(), meta.method(i)));
+    }
+    change(*m_settings);
+    m_settings->refresh();
+    int count = 0;
+    for (const auto &spy : spies) {
+        count += spy->count();
+        QVERIFY(spy->isEmpty() || "2" + changed + "()" == "2" + spy->signal());
+    }
+    QCOMPARE(count, changed.isEmpty() ? 0 : 1);
+    QVERIFY2(content().startsWith("[Global]\n" + line), content().constData());
+    QCOMPARE(content().count('='), 1);
+}
+
+void SettingsTest::writesNothingForAnEqualValue()
+{
+    m_settings->setShowThumbnails(true);
+    m_settings->setHiddenCategories({});
+    m_settings->sync();
+    QVERIFY(!QFile::exists(path()));
+}
+
+void SettingsTest::noticesOtherProcesses()
+{
+    QSignalSpy thumbnails(m_settings.get(), &Settings::showThumbnailsChanged);
+    QSignalSpy sizes(m_settings.get(), &Settings::showFileSizeInBytesChanged);
+    write("[Global]\nshowThumbnails=false\n"); // created
+    QVERIFY(thumbnails.wait());
+    QVERIFY(!m_settings->showThumbnails());
+    const QString replacement = path() + QLatin1String(".new");
+    QVERIFY(QFile::copy(path(), replacement));
+    QFile file(replacement);
+    QVERIFY(file.open(QIODevice::Append));
+    file.write("showFileSizeInBytes=true\n");
+    file.close();
+    QCOMPARE(rename(qPrintable(replacement), qPrintable(path())), 0); // replaced, as the toolkit writes
+    QVERIFY(sizes.wait());
+    QCOMPARE(thumbnails.count(), 1);
+    QVERIFY(m_settings->showFileSizeInBytes());
+}
+
+void SettingsTest::noticesTwoWritesWithinOneSecond()
+{
+    write("[Global]\nshowThumbnails=false\n");
+    const Settings settings;
+    QSignalSpy thumbnails(&settings, &Settings::showThumbnailsChanged);
+    for (int i = 0; i < 4; ++i) { // most within the second of the former look
+        write(i % 2 ? "[Global]\nshowThumbnails=false\n" : "[Global]\nshowThumbnails=true\n");
+        QVERIFY(thumbnails.wait());
+        QCOMPARE(settings.showThumbnails(), i % 2 == 0);
+    }
+}
+
+void SettingsTest::readsAgainWithinOneClockTick()
+{
+    const Global other; // an object on the same file keeps the toolkit's cache alive
+    for (int i = 0; i < 20; ++i) {
+        write("[Global]\nzarnelVersion=" + QByteArray::number(6 + i % 3) + '\n');
+        m_settings->refresh();
+        QCOMPARE(m_settings->zarnelVersion(), 6 + i % 3);
+    }
+}
+
+void SettingsTest::slotsMayChangeSettings()
+{
+    connect(m_settings.get(), &Settings::showThumbnailsChanged, this,
+            [this] { m_settings->setLocaleSortingEnabled(true); });
+    write("[Global]\nshowThumbnails=false\n");
+    m_settings->refresh();
+    QVERIFY(m_settings->isLocaleSortingEnabled());
+    QVERIFY2(content().contains("\nlocaleSorting=true\n"), content().constData()); // and not in a group below
+}
+
+void SettingsTest::leavesABrokenFileUntouchedUntilItIsRepaired()
+{
+    const QByteArray broken = "[Global\nshowThumbnails=false\ntrashSize=7\n";
+    write(broken);
+    Global global; // reads it too: the toolkit then tells nobody any more that it is broken
+    QCOMPARE(global.settings()->status(), QSettings::FormatError);
+    Settings settings;
+    QSignalSpy sizes(&settings, &Settings::showFileSizeInBytesChanged);
+    settings.setShowFileSizeInBytes(true);
+    settings.setHiddenToolBarActions({"mine"});
+    settings.addDefaultHiddenToolBarActions({"default"});
+    settings.refresh();
+    settings.sync();
+    QCOMPARE(content(), broken);
+    QVERIFY(settings.showThumbnails() && settings.showFileSizeInBytes());
+    QCOMPARE(settings.hiddenToolBarActions(), QStringList("mine"));
+    QCOMPARE(sizes.count(), 1);
+
+    write("[Still broken\n" + broken);
+    settings.sync();
+    QCOMPARE(content(), "[Still broken\n" + broken);
+
+    write("[Global]\nshowFileSizeInBytes=false\ntrashSize=7\n");
+    QTRY_COMPARE(settings.trashSize(), 7ULL);
+    QVERIFY2(content().contains("showFileSizeInBytes=true\n") && content().contains("hiddenToolBarActions=mine\n"),
+             content().constData());
+    QVERIFY(settings.showFileSizeInBytes());
+    QCOMPARE(sizes.count(), 1);
+}
+
+void SettingsTest::keepsChangesWhileTheFolderCannotBeWritten()
+{
+    const QString folder = QFileInfo(path()).path();
+    QVERIFY(QDir(folder).removeRecursively());
+    QFile blocker(folder); // in the place of the folder: stops the super-user too
+    QVERIFY(blocker.open(QIODevice::WriteOnly));
+    m_settings->setShowFileSizeInBytes(true);
+    m_settings->refresh();
+    QVERIFY(m_settings->showFileSizeInBytes());
+    QVERIFY(blocker.remove());
+    m_settings->setTrashSize(7);
+    QVERIFY(content().contains("\nshowFileSizeInBytes=true\n") && content().contains("\ntrashSize=7\n"));
+}
+
+void SettingsTest::hiddenToolBarActionsDefault()
+{
+    QSignalSpy changed(m_settings.get(), &Settings::hiddenToolBarActionsChanged);
+    m_settings->addDefaultHiddenToolBarActions({"a"});
+    m_settings->addDefaultHiddenToolBarActions({"b"});
+    QCOMPARE(m_settings->hiddenToolBarActions(), QStringList({"a", "b"}));
+    QCOMPARE(changed.count(), 2);
+    m_settings->setHiddenToolBarActions({"c"});
+    m_settings->addDefaultHiddenToolBarActions({"d"});
+    QCOMPARE(m_settings->hiddenToolBarActions(), QStringList("c"));
+    write("[Global]\n"); // gone from the file: the defaults again
+    m_settings->refresh();
+    QCOMPARE(m_settings->hiddenToolBarActions(), QStringList({"a", "b", "d"}));
+}
+
+void SettingsTest::kioskModes_data()
+{
+    const QByteArray login = KUser(KUser::UseEffectiveUID).loginName().toUtf8();
+    QTest::addColumn<int>("session");
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<bool>("kiosk");
+    QTest::newRow("plain") << 0 << QByteArray() << false;
+    QTest::newRow("kiosk session") << 7 << QByteArray() << true;
+    QTest::newRow("other kiosk session") << 8 << QByteArray() << true;
+    QTest::newRow("session after the kiosk ones") << 9 << QByteArray() << false;
+    QTest::newRow("kiosk user") << 0 << "kiosk\\" + login + "=true" << true;
+    QTest::newRow("not any more") << 0 << "kiosk\\" + login + "=false" << false;
+    QTest::newRow("another user") << 0 << QByteArray("kiosk\\somebody-else=true") << false;
+}
+
+void SettingsTest::kioskModes()
+{
+    QFETCH(const int, session);
+    QFETCH(const QByteArray, line);
+    sessionKind = session;
+    write("[Global]\n" + line + '\n');
+    m_settings->refresh();
+    QTEST(m_settings->isKioskMode(), "kiosk");
+}
+
+void SettingsTest::kioskExecs()
+{
+    sessionKind = 7;
+    const QString folder = QDir::tempPath() + QLatin1String("/kiosk/below");
+    QVERIFY(QDir().mkpath(folder));
+    const auto add = [&folder](const char *name, const QByteArray &text) {
+        QFile file(folder + QLatin1Char('/') + QLatin1String(name));
+        file.open(QIODevice::WriteOnly);
+        file.write("[Desktop Entry]\nName=x\n" + text);
+    };
+    add("a.desktop", "Type=Application\nExec=run a\n");
+    add("again.desktop", "Type=Application\nExec=run a\n");
+    add("link.desktop", "Type=Link\nExec=run b\n");
+    add("silent.desktop", "Type=Application\n");
+    add("b.txt", "Type=Application\nExec=run c\n");
+    qputenv("VESK_KIOSK_CONFIG_DIR", QFile::encodeName(QFileInfo(folder).path()));
+    m_settings->refresh();
+    QCOMPARE(m_settings->kioskExecs(), QStringList("run a"));
+    QFile::remove(folder + QLatin1String("/a.desktop"));
+    QFile::remove(folder + QLatin1String("/again.desktop"));
+    QCOMPARE(m_settings->kioskExecs(), QStringList("run a")); // what was found first stays
+}
+
+void SettingsTest::oneInstance()
+{
+    Settings *const settings = Settings::ptr();
+    QCOMPARE(Settings::ptr(), settings);
+    QPointer<Settings> first(settings);
+    delete settings;
+    QVERIFY(Settings::ptr() && first.isNull()); // the new one is deleted at exit, after the application object
+}
+
+QTEST_GUILESS_MAIN(SettingsTest)
+#include "settingstest.moc"
