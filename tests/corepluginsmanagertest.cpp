@@ -44,14 +44,87 @@ class CorePluginsManagerTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void ordersByPriority();
-    void skipsWhatTheUserMayNotUse();
-    void skipsWhatTheSecurityModeRefuses();
-    void skipsWhatIsNoPlugin();
-    void keepsTheLaterOfTwoWithOnePriority();
-    void bearsPluginsThatAskForTheEngineWhileLoading();
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        pluginsDir = m_dir->path();
+        admitAll = true;
+    }
+
+    void cleanup()
+    {
+        delete CorePluginsManager::ptr(); // the next one loads anew
+    }
+
+    void ordersByPriority()
+    {
+        install("priority20");
+        install("priority10");
+        QCOMPARE(loadedFiles(), QStringList({"priority10.so", "priority20.so"}));
+        QCOMPARE(CorePluginsManager::ptr()->pluginFileName(nullptr), QString());
+        PropertyEnumerator enumerator(CorePluginsManager::ptr()->propsPlugins());
+        QCOMPARE(enumerator.count(), 2); // these have neither columns nor emblems nor sets
+        QVERIFY(enumerator.propertySetsProvidingEmblems().isEmpty() && !enumerator.createPropertySet(1));
+        CorePluginsManager::ptr()->release();
+        QCOMPARE(loadedFiles(), QStringList());
+    }
+
+    void skipsWhatTheUserMayNotUse()
+    {
+        install("priority10", "denied.so");
+        install("priority20", "granted.so");
+        UserPropCaps::ptr()->setAccessibility(getuid(), "denied.so", false);
+        UserPropCaps::ptr()->setAccessibility(getuid() + 1, "granted.so", false);
+        QCOMPARE(loadedFiles(), QStringList("granted.so"));
+        QVERIFY(isMapped("granted.so"));
+        QVERIFY(!isMapped("denied.so"));
+    }
+
+    void skipsWhatTheSecurityModeRefuses()
+    {
+        install("priority10", "refused.so");
+        admitAll = false;
+        QCOMPARE(loadedFiles(), QStringList());
+        QVERIFY(!isMapped("refused.so"));
+    }
+
+    void skipsWhatIsNoPlugin()
+    {
+        install("otherinterface");
+        install("throwing");
+        install("priority20", "UPPER.SO");
+        install("priority20", "priority20.so.1");
+        QVERIFY(QDir(pluginsDir).mkdir("directory.so"));
+        QFile text(m_dir->filePath("text.so"));
+        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no library") > 0);
+        text.close();
+        QVERIFY(QFile::copy(QStringLiteral(TEST_ORDINARY_LIBRARY), m_dir->filePath("ordinary.so")));
+        install("priority10");
+        QTest::ignoreMessage(
+            QtWarningMsg,
+            qPrintable("Loading the plug-in \"" + m_dir->filePath("throwing.so") + "\" failed: no licence"));
+        QCOMPARE(loadedFiles(), QStringList("priority10.so"));
+    }
+
+    void keepsTheLaterOfTwoWithOnePriority()
+    {
+        install("priority10");
+        install("anotherpriority10");
+        const QStringList listed = QDir(pluginsDir).entryList(QDir::Files, QDir::Unsorted); // as the directory has them
+        QCOMPARE(loadedFiles(), QStringList(listed.last()));
+        QVERIFY(isMapped(listed.first()));
+    }
+
+    void bearsPluginsThatAskForTheEngineWhileLoading()
+    {
+        install("reentrant");
+        Props *props = Props::ptr();
+        QVERIFY(props->propertyEnumerator());
+        QCOMPARE(loadedFiles(), QStringList("reentrant.so"));
+        delete props;
+        QVERIFY(Props::ptr()->propertyEnumerator());
+        delete Props::ptr();
+    }
 
 private:
     void install(const QString &plugin, const QString &asFile = QString());
@@ -60,18 +133,6 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_dir;
 };
-
-void CorePluginsManagerTest::init()
-{
-    m_dir = std::make_unique<QTemporaryDir>();
-    pluginsDir = m_dir->path();
-    admitAll = true;
-}
-
-void CorePluginsManagerTest::cleanup()
-{
-    delete CorePluginsManager::ptr(); // the next one loads anew
-}
 
 void CorePluginsManagerTest::install(const QString &plugin, const QString &asFile)
 {
@@ -93,75 +154,6 @@ bool CorePluginsManagerTest::isMapped(const QString &file)
 {
     QFile maps(QStringLiteral("/proc/self/maps"));
     return maps.open(QIODevice::ReadOnly) && maps.readAll().contains('/' + file.toUtf8() + '\n');
-}
-
-void CorePluginsManagerTest::ordersByPriority()
-{
-    install("priority20");
-    install("priority10");
-    QCOMPARE(loadedFiles(), QStringList({"priority10.so", "priority20.so"}));
-    QCOMPARE(CorePluginsManager::ptr()->pluginFileName(nullptr), QString());
-    PropertyEnumerator enumerator(CorePluginsManager::ptr()->propsPlugins());
-    QCOMPARE(enumerator.count(), 2); // these have neither columns nor emblems nor sets
-    QVERIFY(enumerator.propertySetsProvidingEmblems().isEmpty() && !enumerator.createPropertySet(1));
-    CorePluginsManager::ptr()->release();
-    QCOMPARE(loadedFiles(), QStringList());
-}
-
-void CorePluginsManagerTest::skipsWhatTheUserMayNotUse()
-{
-    install("priority10", "denied.so");
-    install("priority20", "granted.so");
-    UserPropCaps::ptr()->setAccessibility(getuid(), "denied.so", false);
-    UserPropCaps::ptr()->setAccessibility(getuid() + 1, "granted.so", false);
-    QCOMPARE(loadedFiles(), QStringList("granted.so"));
-    QVERIFY(isMapped("granted.so"));
-    QVERIFY(!isMapped("denied.so"));
-}
-
-void CorePluginsManagerTest::skipsWhatTheSecurityModeRefuses()
-{
-    install("priority10", "refused.so");
-    admitAll = false;
-    QCOMPARE(loadedFiles(), QStringList());
-    QVERIFY(!isMapped("refused.so"));
-}
-
-void CorePluginsManagerTest::skipsWhatIsNoPlugin()
-{
-    install("otherinterface");
-    install("throwing");
-    install("priority20", "UPPER.SO");
-    install("priority20", "priority20.so.1");
-    QVERIFY(QDir(pluginsDir).mkdir("directory.so"));
-    QFile text(m_dir->filePath("text.so"));
-    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("no library") > 0);
-    text.close();
-    QVERIFY(QFile::copy(QStringLiteral(TEST_ORDINARY_LIBRARY), m_dir->filePath("ordinary.so")));
-    install("priority10");
-    QTest::ignoreMessage(
-        QtWarningMsg, qPrintable("Loading the plug-in \"" + m_dir->filePath("throwing.so") + "\" failed: no licence"));
-    QCOMPARE(loadedFiles(), QStringList("priority10.so"));
-}
-
-void CorePluginsManagerTest::keepsTheLaterOfTwoWithOnePriority()
-{
-    install("priority10");
-    install("anotherpriority10");
-    const QStringList listed = QDir(pluginsDir).entryList(QDir::Files, QDir::Unsorted); // as the directory has them
-    QCOMPARE(loadedFiles(), QStringList(listed.last()));
-    QVERIFY(isMapped(listed.first()));
-}
-
-void CorePluginsManagerTest::bearsPluginsThatAskForTheEngineWhileLoading()
-{
-    install("reentrant");
-    Props *props = Props::ptr();
-    QVERIFY(props->propertyEnumerator());
-    QCOMPARE(loadedFiles(), QStringList("reentrant.so"));
-    delete props;
-    QVERIFY(Props::ptr()->propertyEnumerator());
-    delete Props::ptr();
 }
 
 QTEST_MAIN(CorePluginsManagerTest)

@@ -14,30 +14,28 @@ class UserPropCapsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void remembersByUserAndCapability();
+    void remembersByUserAndCapability()
+    {
+        UserPropCaps *caps = UserPropCaps::ptr();
+        QVERIFY(caps->isAccessible(1000, "x.so"));
+        caps->setAccessibility(1000, "x.so", false);
+        caps->setAccessibility(4294967295U, "x.so", false); // no negative number in the file
+        caps->setAccessibility(1000, "", false);
+        QVERIFY(!caps->isAccessible(1000, "x.so"));
+        QVERIFY(caps->isAccessible(1001, "x.so"));
+        QVERIFY(caps->isAccessible(1000, "y.so"));
+        QVERIFY(caps->isAccessible(1000, ""));
+        QSettings *settings = Global::ptr()->settings();
+        QCOMPARE(settings->value("userPropertyCapabilities/1000/x.so"), QVariant(false));
+        QCOMPARE(settings->value("userPropertyCapabilities/4294967295/x.so"), QVariant(false));
+        QCOMPARE(settings->allKeys().filter("userPropertyCapabilities").size(), 2);
+
+        delete caps;
+        QVERIFY(!UserPropCaps::ptr()->isAccessible(1000, "x.so"));
+        UserPropCaps::ptr()->setAccessibility(1000, "x.so", true);
+        QVERIFY(UserPropCaps::ptr()->isAccessible(1000, "x.so"));
+    }
 };
-
-void UserPropCapsTest::remembersByUserAndCapability()
-{
-    UserPropCaps *caps = UserPropCaps::ptr();
-    QVERIFY(caps->isAccessible(1000, "x.so"));
-    caps->setAccessibility(1000, "x.so", false);
-    caps->setAccessibility(4294967295U, "x.so", false); // no negative number in the file
-    caps->setAccessibility(1000, "", false);
-    QVERIFY(!caps->isAccessible(1000, "x.so"));
-    QVERIFY(caps->isAccessible(1001, "x.so"));
-    QVERIFY(caps->isAccessible(1000, "y.so"));
-    QVERIFY(caps->isAccessible(1000, ""));
-    QSettings *settings = Global::ptr()->settings();
-    QCOMPARE(settings->value("userPropertyCapabilities/1000/x.so"), QVariant(false));
-    QCOMPARE(settings->value("userPropertyCapabilities/4294967295/x.so"), QVariant(false));
-    QCOMPARE(settings->allKeys().filter("userPropertyCapabilities").size(), 2);
-
-    delete caps;
-    QVERIFY(!UserPropCaps::ptr()->isAccessible(1000, "x.so"));
-    UserPropCaps::ptr()->setAccessibility(1000, "x.so", true);
-    QVERIFY(UserPropCaps::ptr()->isAccessible(1000, "x.so"));
-}
 
 QTEST_MAIN(UserPropCapsTest)
 #include "userpropcapstest.moc"
