@@ -94,8 +94,10 @@ Clipboard::Clipboard()
 {
     if (!instance)
         instance = this;
-    registerProcessor(new GnomeProcessor);
-    registerProcessor(new DefaultProcessor);
+    static GnomeProcessor gnomeProcessor; // stateless: all instances may share them
+    static DefaultProcessor defaultProcessor;
+    registerProcessor(&gnomeProcessor); // first: it tells a cut from a copy in its own data
+    registerProcessor(&defaultProcessor);
 }
 
 Clipboard::~Clipboard()
