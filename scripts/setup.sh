@@ -25,7 +25,7 @@ install_missing_packages() {
 build() {
     local dir=$root/build/$1
     install_missing_packages
-    if [ ! -f "$dir/build.ninja" ] || [ "$root/CMakePresets.json" -nt "$dir/CMakeCache.txt" ]; then
+    if [ "$root/CMakePresets.json" -nt "$dir/build.ninja" ]; then # also when the latter is missing
         (cd "$root" && cmake --preset "$1") >&2
     fi
     cmake --build "$dir" --parallel "$(nproc)" ${2:+--target "${@:2}"} >&2
