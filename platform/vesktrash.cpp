@@ -28,9 +28,9 @@ namespace
 {
 
 const QByteArray infoSuffix = QByteArrayLiteral(".trashinfo");
-constexpr int longestName = 255; // bytes, of any file name
-constexpr int numberedNames = 100;
-constexpr int triedNames = 200;
+constexpr int longestName = 255;  // bytes, of any file name
+constexpr int numberedNames = 20; // random ones follow, so that a common name does not get slower and slower
+constexpr int triedNames = 100;
 
 QMutex dirSizesMutex; // one at a time reads, changes and replaces the file of directory sizes
 
