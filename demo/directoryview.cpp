@@ -110,9 +110,11 @@ void DirectoryView::setEntryIconSize(IconSize size)
 
 void DirectoryView::showEntry(const Entry &entry)
 {
-    const QModelIndex index = m_model->indexOfEntry(entry);
+    const QModelIndex index = entry.isNull() ? QModelIndex() : m_model->indexOfEntry(entry);
     if (index.isValid())
         setCurrentIndex(index);
+    else if (!currentIndex().isValid()) // for the keyboard
+        selectionModel()->setCurrentIndex(m_model->index(0, 0), QItemSelectionModel::NoUpdate);
 }
 
 void DirectoryView::setEmptyText(const QString &text)

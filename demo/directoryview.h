@@ -27,7 +27,7 @@ public:
     VeskFM::IconSize entryIconSize() const;
     void setEntryIconSize(VeskFM::IconSize size);
 
-    /// Makes the row of @p entry the current one and scrolls to it; nothing when it has no row.
+    /// Selects the row of @p entry and scrolls to it. When it has none, the cursor goes to the first row at least.
     void showEntry(const VeskFM::Entry &entry);
     /// Text in the middle of the view while it has no entries.
     void setEmptyText(const QString &text);

@@ -17,6 +17,8 @@
 #include <QShortcut>
 #include <QToolBar>
 
+#include <utility>
+
 using namespace VeskFM;
 
 namespace
@@ -140,10 +142,8 @@ void MainWindow::followDirectory()
 {
     connect(&m_view, &DirectoryView::entryActivated, this, &MainWindow::activateEntry);
     connect(&m_model, &Model::dirListed, this, [this](const Entry &directory) {
-        if (directory == m_model.actualRootEntry() && !m_cameFrom.isNull()) {
-            m_view.showEntry(m_cameFrom);
-            m_cameFrom = Entry();
-        }
+        if (directory == m_model.actualRootEntry())
+            m_view.showEntry(std::exchange(m_cameFrom, {}));
     });
     // Queued, since the watcher speaks from any thread.
     connect(VFS::ptr()->entryWatcher(), &EntryWatcher::entryDeleted, this, &MainWindow::leaveDeletedDirectory,
