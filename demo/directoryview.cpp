@@ -85,7 +85,7 @@ void DirectoryView::layOutColumns()
     header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     const QStringList names = m_model->internalPropertyNames();
     const QHash<QString, QString> typicalTexts{
-        {QStringLiteral("Type"), QStringLiteral("OpenDocument text")},
+        {QStringLiteral("Type"), QStringLiteral("OpenDocument spreadsheet")},
         {QStringLiteral("Size"), QStringLiteral("1023.99 MB")},
         {QStringLiteral("Modified"), QStringLiteral("28 May 2026 22:48:58")},
         {QStringLiteral("Permissions"), QStringLiteral("drwxrwxrwx")},
@@ -129,7 +129,7 @@ void DirectoryView::paintEvent(QPaintEvent *event)
     if (m_emptyText.isEmpty() || entryCount(*m_model) > 0)
         return;
     QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
 }
 

@@ -35,6 +35,8 @@ StatusLine::StatusLine(Model *model, DirectoryView *view, QWidget *parent)
     m_iconSize->setPageStep(1);
     m_listing->setContentsMargins(6, 0, 0, 0);
     m_selection->setContentsMargins(0, 0, 12, 0);
+    setSizeGripEnabled(false);
+    setContentsMargins(0, 0, 8, 0);
     addWidget(m_listing, 1);
     addPermanentWidget(m_selection);
     addPermanentWidget(m_iconSize);
