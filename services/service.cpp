@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include <veskfm/service.h>
+
+#include <veskfm/serviceadaptor.h>
+#include <veskfm/settings.h>
+#include <veskplatform/veskdirs.h>
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusServiceWatcher>
+#include <QGuiApplication>
+#include <QMessageBox>
+
+namespace VeskFM
+{
+
+namespace
+{
+
+QList<Service *> &services()
+{
+    static QList<Service *> list;
+    return list;
+}
+
+void haltServices(Core::HaltReason reason)
+{
+    for (Service *service : qAsConst(services()))
+        service->wrappedHaltHandler(reason);
+}
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("Service", text);
+}
+
+} // namespace
+
+Service::Service(QObject *parent)
+    : QObject(parent)
+{
+    Core::installHaltSignalHandler();
+    QCoreApplication::setOrganizationName(QString::fromLocal8Bit(GetOrganization()));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    new ServiceAdaptor(this);
+
+    services().append(this);
+    Core::addHaltHandler(haltServices);
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &Service::release,
+            Qt::DirectConnection);
+    connect(&m_unloader, &QTimer::timeout, this, &Service::unloaderTimeout, Qt::QueuedConnection);
+
+    m_watcher = new QDBusServiceWatcher(this);
+    m_watcher->setConnection(QDBusConnection::sessionBus());
+    m_watcher->setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
+    connect(m_watcher, &QDBusServiceWatcher::serviceUnregistered, this, &Service::slotCallingServiceUnregistered);
+}
+
+Service::~Service()
+{
+    services().removeAll(this);
+}
+
+void Service::capture()
+{
+    if (calledFromDBus())
+        m_watcher->addWatchedService(message().service());
+}
+
+void Service::unloaderTimeout()
+{
+    if (m_watcher->watchedServices().isEmpty() && m_lockCount < 1 && unloadIsAllowed()) {
+        QCoreApplication::quit();
+        return;
+    }
+    recallUnloader();
+}
+
+void Service::slotCallingServiceUnregistered(const QString &service)
+{
+    m_watcher->removeWatchedService(service);
+}
+
+void Service::lockUnloader()
+{
+    m_unloader.stop();
+    ++m_lockCount;
+}
+
+void Service::unlockUnloader()
+{
+    --m_lockCount;
+    recallUnloader();
+}
+
+void Service::recallUnloader()
+{
+    if (m_lockCount < 1)
+        m_unloader.start(Settings::ptr()->serviceLifeTime());
+}
+
+void Service::haltHandler(Core::HaltReason) {}
+
+bool Service::unloadIsAllowed()
+{
+    return true;
+}
+
+void Service::wrappedHaltHandler(Core::HaltReason reason)
+{
+    haltHandler(reason);
+}
+
+void Service::messageBoxHandler(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    switch (type) {
+    case QtDebugMsg:
+        QMessageBox::information(nullptr, translated(QT_TRANSLATE_NOOP("Service", "Debug message")), message);
+        break;
+    case QtWarningMsg:
+        QMessageBox::warning(nullptr, translated(QT_TRANSLATE_NOOP("Service", "Warning")), message);
+        break;
+    case QtCriticalMsg:
+        QMessageBox::critical(nullptr, translated(QT_TRANSLATE_NOOP("Service", "Critical")), message);
+        break;
+    case QtFatalMsg:
+        QMessageBox::warning(nullptr, translated(QT_TRANSLATE_NOOP("Service", "Fatal")), message);
+        break;
+    case QtInfoMsg:
+        break;
+    }
+}
+
+} // namespace VeskFM
