@@ -149,7 +149,7 @@ EntryList LocalPlaces::readFavorites() const
         if (label.isEmpty())
             label = directory == QLatin1String("/") ? directory : directory.section(QLatin1Char('/'), -1);
         const Entry favorite =
-            makePlace(favoritesRoot + directory.mid(1), label, directory, {EntryTrait::FavoritePlace});
+            makePlace(favoritesRoot + QLatin1String("at") + directory, label, directory, {EntryTrait::FavoritePlace});
         if (!favorites.contains(favorite))
             favorites.append(favorite);
     }
