@@ -133,10 +133,6 @@ int main(int argc, char **argv)
     chooseEncoding();
     Options options;
     QString problem = readOptions(argc, argv, &options);
-    if (options.help) {
-        std::fputs(qUtf8Printable(helpText()), stdout);
-        return 0;
-    }
     choosePlatform(options);
     if (!hasDisplay())
         return fail(problem.isEmpty() ? QStringLiteral("there is no display; --print and --screenshot FILE need none")
@@ -144,6 +140,10 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("vesk-browser"));
     problem = readOptions(argc, argv, &options);
+    if (options.help) {
+        std::fputs(qUtf8Printable(helpText()), stdout);
+        return 0;
+    }
     if (!problem.isEmpty())
         return fail(problem);
     EntryViewParameters::ptr()->initFromSettings();

@@ -22,7 +22,7 @@ struct Options
     VeskFM::Model::SortOrder sortOrder = VeskFM::Model::Ascending;
 
     /// Whether no window is wanted on a display.
-    bool isHeadless() const { return print || !screenshotFile.isEmpty(); }
+    bool isHeadless() const { return help || print || !screenshotFile.isEmpty(); }
 };
 
 /// Reads the command line. Needs no application object, so that the answer can decide about the platform; before the
@@ -30,7 +30,7 @@ struct Options
 /// @return what is wrong with it; empty when all is well
 QString readOptions(int argc, char **argv, Options *options);
 
-/// The text for --help.
+/// The text for --help; needs the application object.
 QString helpText();
 
 /// The entry that a path of the command line names, relative to the current directory; null where there is none.

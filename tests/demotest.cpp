@@ -19,6 +19,7 @@ private Q_SLOTS:
     void printsTheRows();
     void printsOddNamesOnOneLineEach();
     void savesAPicture();
+    void helps();
     void refuses_data();
     void refuses();
 };
@@ -127,6 +128,13 @@ void DemoTest::savesAPicture()
     QVERIFY2(result.exitCode == 0, result.errors.constData());
     QCOMPARE(QImage(file).size(), QSize(1000, 650));
     QCOMPARE(runBrowser({"--screenshot", target.filePath("none/window.png"), dir.path()}).exitCode, 1);
+}
+
+void DemoTest::helps()
+{
+    const Result result = runBrowser({"--help"});
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(result.lines.join(QLatin1Char(' ')).contains(QLatin1String("--screenshot")));
 }
 
 void DemoTest::refuses_data()
