@@ -10,6 +10,7 @@
 
 #include <QIcon>
 #include <QImage>
+#include <QSemaphore>
 #include <QtConcurrentRun>
 #include <QtTest>
 
@@ -53,12 +54,116 @@ QString nameOf(const EntryBasePropertySet &set, const Entry &entry)
     return set.value(entry, 0, Qt::DisplayRole).toString();
 }
 
-QSet<int> traits(std::initializer_list<EntryTrait> list)
+using T = EntryTrait;
+const char trashDir[] = "the trash"; // stands for its path
+const struct
 {
-    QSet<int> result;
-    for (EntryTrait trait : list)
-        result.insert(int(trait));
-    return result;
+    const char *why;
+    QVector<EntryTrait> traits;
+    QString local;
+    int storageType;
+    QString storageIcon;
+    QString name;
+    QString icon;
+} places[] = {
+    {"first match wins", {T::Place, T::HomeDirPlace, T::ComputerPlace}, "", 0, "", "node", "computer"},
+    {"home stays home", {T::Place, T::HomeDirPlace, T::DirPlace, T::Dir}, "/h", 0, "", "node", "user-home"},
+    {"trash by its path", {T::Dir}, trashDir, 0, "", "node", "user-trash"},
+    {"share", {T::Place, T::SFtpSharePlace}, "", 0, "", "node", "folder-remote"},
+    {"disk", {T::Place, T::StoragePlace}, "/mnt/%1", 4, "", "node (/mnt/%1)", "drive-harddisk"},
+    {"stick", {T::Place, T::StoragePlace}, "", 3, "", "node", "drive-removable-media-usb-pendrive"},
+    {"stick with an icon", {T::Place, T::StoragePlace}, "", 3, "stick", "node", "stick"},
+    {"disc keeps %1", {T::Place, T::StoragePlace, T::CdromDriveStoragePlace}, "/m", 2, "", "L%1 (/m)", "media-optical"},
+    {"unknown storage", {T::Place, T::StoragePlace}, "", 9, "", "node", "unknown"},
+    {"unknown storage, dir", {T::Place, T::StoragePlace, T::DirPlace}, "", 9, "", "node", "folder"},
+    {"favourite", {T::Place, T::FavoritePlace, T::DirPlace}, "/f", 0, "", "My things", "folder"},
+    {"file system root", {T::FSRoot, T::Dir}, "/", 0, "", "/", "folder"},
+};
+
+const QByteArray appHead("[Desktop Entry]\nType=Application\nExec=true\n");
+const QByteArray linkHead("[Desktop Entry]\nType=Link\nURL=file:/\n");
+const struct
+{
+    const char *why;
+    QByteArray content;
+    QString name;
+    QString toolTip;
+    QString icon;
+} desktopFiles[] = {
+    {"all there", appHead + "Name= Ed \nComment= Edits \nIcon=editor\n", "Ed", "Ed\nEdits", "editor"},
+    {"theme lacks the icon", appHead + "Name=E\nIcon=missing\n", "E", "E", "application-x-desktop"},
+    {"no icon, no name", appHead, "a.desktop", "a.desktop", "application-x-desktop"},
+    {"link keeps its icon", linkHead + "Name=L\nIcon=missing\n", "L", "L", ""},
+    {"no desktop entry", "hello\n", "a.desktop", "a.desktop", "unknown"},
+};
+
+const struct
+{
+    const char *why;
+    bool names;
+    bool icons;
+    bool slow;
+    QString name;
+    QString icon;
+} directories[] = {
+    {"both", true, true, false, "Special", "special"}, {"names", true, false, false, "Special", "folder"},
+    {"icons", false, true, false, "dir", "special"},   {"neither", false, false, false, "dir", "folder"},
+    {"slow", true, true, true, "dir", "folder"},
+};
+
+const char octets[] = "application/octet-stream";
+const struct
+{
+    const char *why;
+    QByteArray name;
+    bool slow;
+    QString icon;
+    QString mimeType;
+} files[] = {
+    {"by content", "text", false, "text-plain", "text/plain"},
+    {"by name when slow", "text", true, "application-octet-stream", octets},
+    {"program", "program", false, "system-run", octets},
+    {"dead link", "dead", false, "dialog-cancel", ""},
+    {"endless link", "endless", false, "dialog-cancel", ""},
+    {"link", "link", false, "text-plain", ""},
+    {"broken picture", "broken.png", false, "image-png", "image/png"},
+    {"no UTF-8", "\xff.png", false, "image-png", "image/png"},
+    {"waits for no writer", "fifo.desktop", false, "unknown", ""},
+};
+
+const struct
+{
+    const char *why;
+    bool here;
+    bool inNetwork;
+    bool isNetwork;
+    int limitMB;
+    QStringList groups;
+    bool shown;
+} thumbnails[] = {
+    {"usual", true, false, false, 0, {"image"}, true},
+    {"off", false, false, false, 0, {"image"}, false},
+    {"not in the network", true, false, true, 0, {"image"}, false},
+    {"only in the network", false, true, false, 0, {"image"}, false},
+    {"in the network", false, true, true, 0, {"image"}, true},
+    {"everywhere", true, true, true, 0, {"image"}, true},
+    {"no group", true, false, false, 0, {}, false},
+    {"above the limit", true, false, false, 1, {"image"}, false},
+    {"below the limit", true, false, false, 3, {"image"}, true},
+    {"2048 MB overflow to no limit", true, false, false, 2048, {"image"}, true},
+    {"4096 MB overflow to no limit", true, false, false, 4096, {"image"}, true},
+};
+
+template <class Row, size_t count> void addRows(const Row (&rows)[count])
+{
+    QTest::addColumn<int>("row");
+    for (size_t i = 0; i < count; ++i)
+        QTest::newRow(rows[i].why) << int(i);
+}
+
+int rowNumber()
+{
+    return *static_cast<int *>(QTest::qData("row", QMetaType::Int));
 }
 
 } // namespace
@@ -70,20 +175,21 @@ class EntryBasePropertySetTest : public QObject
 private Q_SLOTS:
     void initTestCase() { makeTheme(m_theme); }
     void init();
-    void namesAndDrawsPlaces_data();
+    void namesAndDrawsPlaces_data() { addRows(places); }
     void namesAndDrawsPlaces();
-    void namesAndDrawsDesktopFiles_data();
+    void namesAndDrawsDesktopFiles_data() { addRows(desktopFiles); }
     void namesAndDrawsDesktopFiles();
-    void readsDirectoryFiles_data();
+    void readsDirectoryFiles_data() { addRows(directories); }
     void readsDirectoryFiles();
     void preparesChildrenOfHomeAtOnce();
-    void refinesFiles_data();
+    void refinesFiles_data() { addRows(files); }
     void refinesFiles();
-    void decidesOnThumbnails_data();
+    void decidesOnThumbnails_data() { addRows(thumbnails); }
     void decidesOnThumbnails();
     void describesTypes();
     void forgetsTheFormerEntry();
     void survivesRefinementOnThePool();
+    void publishesNothingOutdated();
 
 private:
     TestTree m_theme;
@@ -100,149 +206,46 @@ void EntryBasePropertySetTest::init()
     parameters->setMaxImageFileSizeToShowThumbnailMB(0);
 }
 
-void EntryBasePropertySetTest::namesAndDrawsPlaces_data()
-{
-    using T = EntryTrait;
-    QTest::addColumn<QSet<int>>("traits");
-    QTest::addColumn<QString>("local");
-    QTest::addColumn<int>("storageType");
-    QTest::addColumn<QString>("storageIcon");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("icon");
-    const auto place = [](std::initializer_list<T> more) { return traits(more) + traits({T::Place}); };
-    QTest::newRow("first match wins") << place({T::HomeDirPlace, T::ComputerPlace}) << "" << 0 << ""
-                                      << "node"
-                                      << "computer";
-    QTest::newRow("home") << place({T::HomeDirPlace, T::DirPlace}) << "/h" << 0 << ""
-                          << "node"
-                          << "user-home";
-    QTest::newRow("trash by its path") << traits({T::Dir}) << StandardPaths::trashDirPath() << 0 << ""
-                                       << "node"
-                                       << "user-trash";
-    QTest::newRow("share") << place({T::SFtpSharePlace}) << "" << 0 << ""
-                           << "node"
-                           << "folder-remote";
-    QTest::newRow("disk") << place({T::StoragePlace}) << "/mnt/%1" << 4 << ""
-                          << "node (/mnt/%1)"
-                          << "drive-harddisk";
-    QTest::newRow("stick") << place({T::StoragePlace}) << "" << 3 << ""
-                           << "node"
-                           << "drive-removable-media-usb-pendrive";
-    QTest::newRow("stick with an icon") << place({T::StoragePlace}) << "" << 3 << "stick"
-                                        << "node"
-                                        << "stick";
-    QTest::newRow("disc keeps %1") << place({T::StoragePlace, T::CdromDriveStoragePlace}) << "/m" << 2 << ""
-                                   << "L%1 (/m)"
-                                   << "media-optical";
-    QTest::newRow("unknown storage") << place({T::StoragePlace}) << "" << 9 << ""
-                                     << "node"
-                                     << "unknown";
-    QTest::newRow("unknown storage, dir") << place({T::StoragePlace, T::DirPlace}) << "" << 9 << ""
-                                          << "node"
-                                          << "folder";
-    QTest::newRow("favourite") << place({T::FavoritePlace, T::DirPlace}) << "/f" << 0 << ""
-                               << "My things"
-                               << "folder";
-    QTest::newRow("file system root") << traits({T::FSRoot, T::Dir}) << "/" << 0 << ""
-                                      << "/"
-                                      << "folder";
-}
-
 void EntryBasePropertySetTest::namesAndDrawsPlaces()
 {
-    QFETCH(QSet<int>, traits);
-    QFETCH(QString, local);
-    QFETCH(int, storageType);
-    QFETCH(QString, storageIcon);
+    const auto &row = places[rowNumber()];
     FakeVfs vfs;
-    vfs.storage = StoragePlace(storageType, storageIcon, "L%1", false);
+    vfs.storage = StoragePlace(row.storageType, row.storageIcon, "L%1", false);
     vfs.favorite = FavoritePlace("My things");
-    auto *data = new FakeEntryData("x:/node", traits + QSet<int>{int(EntryTrait::Exists)});
-    data->local = local;
+    auto *data = new FakeEntryData("x:/node", row.traits + QVector<EntryTrait>{T::Exists});
+    data->local = row.local == trashDir ? StandardPaths::trashDirPath() : row.local;
     const Entry entry(data);
     EntryBasePropertySet set;
-    set.prepare(entry);
-    QTEST(nameOf(set, entry), "name");
-    QTEST(iconOf(set, entry).name(), "icon");
-    set.refineData(entry);
-    QTEST(nameOf(set, entry), "name");
-    QTEST(iconOf(set, entry).name(), "icon");
-
-    vfs.storage = StoragePlace(storageType, storageIcon, "L%1", true);
+    for (bool refined : {false, true}) {
+        refined ? set.refineData(entry) : set.prepare(entry);
+        QCOMPARE(nameOf(set, entry), row.name);
+        QCOMPARE(iconOf(set, entry).name(), row.icon);
+    }
     const QImage before = iconOf(set, entry).pixmap(32).toImage();
+    vfs.storage = StoragePlace(row.storageType, row.storageIcon, "L%1", true);
     set.prepare(entry);
     const QImage mounted = iconOf(set, entry).pixmap(32).toImage();
-    QCOMPARE(mounted.pixelColor(30, 30) != before.pixelColor(30, 30),
-             storageType != 0); // the emblem of a mounted device
+    QCOMPARE(mounted.pixelColor(30, 30) != before.pixelColor(30, 30), row.storageType != 0); // the emblem
     QCOMPARE(mounted.pixelColor(1, 1), before.pixelColor(1, 1));
-}
-
-void EntryBasePropertySetTest::namesAndDrawsDesktopFiles_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("toolTip");
-    QTest::addColumn<QString>("icon");
-    const QByteArray head("[Desktop Entry]\nType=Application\nExec=true\n");
-    QTest::newRow("all there") << head + "Name= Editor \nComment= Edits \nIcon=editor\n"
-                               << "Editor"
-                               << "Editor\nEdits"
-                               << "editor";
-    QTest::newRow("theme lacks icon") << head + "Name=E\nIcon=missing\n"
-                                      << "E"
-                                      << "E"
-                                      << "application-x-desktop";
-    QTest::newRow("no icon, no name") << head << "a.desktop"
-                                      << "a.desktop"
-                                      << "application-x-desktop";
-    QTest::newRow("link keeps its icon") << QByteArray("[Desktop Entry]\nType=Link\nURL=file:/\nName=L\nIcon=missing\n")
-                                         << "L"
-                                         << "L"
-                                         << "";
-    QTest::newRow("no desktop entry") << QByteArray("hello\n") << "a.desktop"
-                                      << "a.desktop"
-                                      << "unknown";
 }
 
 void EntryBasePropertySetTest::namesAndDrawsDesktopFiles()
 {
-    QFETCH(QByteArray, content);
+    const auto &row = desktopFiles[rowNumber()];
     TestTree tree;
-    const Entry entry = tree.add("a.desktop", content);
+    const Entry entry = tree.add("a.desktop", row.content);
     EntryBasePropertySet set;
-    set.prepare(entry);
     for (bool refined : {false, true}) {
-        if (refined)
-            set.refineData(entry);
-        QTEST(nameOf(set, entry), "name");
-        QTEST(set.value(entry, 0, Qt::ToolTipRole).toString(), "toolTip");
-        QTEST(iconOf(set, entry).name(), "icon");
+        refined ? set.refineData(entry) : set.prepare(entry);
+        QCOMPARE(nameOf(set, entry), row.name);
+        QCOMPARE(set.value(entry, 0, Qt::ToolTipRole).toString(), row.toolTip);
+        QCOMPARE(iconOf(set, entry).name(), row.icon);
     }
-}
-
-void EntryBasePropertySetTest::readsDirectoryFiles_data()
-{
-    QTest::addColumn<bool>("names");
-    QTest::addColumn<bool>("icons");
-    QTest::addColumn<bool>("slow");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("icon");
-    QTest::newRow("both") << true << true << false << "Special"
-                          << "special";
-    QTest::newRow("names") << true << false << false << "Special"
-                           << "folder";
-    QTest::newRow("icons") << false << true << false << "dir"
-                           << "special";
-    QTest::newRow("neither") << false << false << false << "dir"
-                             << "folder";
-    QTest::newRow("slow") << true << true << true << "dir"
-                          << "folder";
 }
 
 void EntryBasePropertySetTest::readsDirectoryFiles()
 {
-    QFETCH(bool, names);
-    QFETCH(bool, icons);
+    const auto &row = directories[rowNumber()];
     TestTree tree;
     FakeVfs vfs;
     tree.add("dir/.directory", "[Desktop Entry]\nType=Directory\nName=Special\nIcon=special\n");
@@ -253,14 +256,14 @@ void EntryBasePropertySetTest::readsDirectoryFiles()
     set.refineData(entry);
     QCOMPARE(iconOf(set, entry).name(), "special");
 
-    vfs.slow = QTest::currentDataTag() == QByteArray("slow");
-    EntryViewParameters::ptr()->setUseMetaInfoForDirNames(names);
-    EntryViewParameters::ptr()->setUseMetaInfoForDirIcons(icons);
+    vfs.slow = row.slow;
+    EntryViewParameters::ptr()->setUseMetaInfoForDirNames(row.names);
+    EntryViewParameters::ptr()->setUseMetaInfoForDirIcons(row.icons);
     set.updatePresentation(entry, false);
     QCOMPARE(nameOf(set, entry), "Special"); // nothing refined, nothing to redo
     set.updatePresentation(entry, true);
-    QTEST(nameOf(set, entry), "name");
-    QTEST(iconOf(set, entry).name(), "icon");
+    QCOMPARE(nameOf(set, entry), row.name);
+    QCOMPARE(iconOf(set, entry).name(), row.icon);
     QCOMPARE(set.value(entry, 1, Qt::ToolTipRole), "inode/directory");
 }
 
@@ -280,35 +283,9 @@ void EntryBasePropertySetTest::preparesChildrenOfHomeAtOnce()
     QCOMPARE(iconOf(set, tree.entry("bad")).name(), "folder");
 }
 
-void EntryBasePropertySetTest::refinesFiles_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<bool>("slow");
-    QTest::addColumn<QString>("icon");
-    QTest::addColumn<QString>("mimeType");
-    QTest::newRow("by content") << QByteArray("text") << false << "text-plain"
-                                << "text/plain";
-    QTest::newRow("by name when slow") << QByteArray("text") << true << "application-octet-stream"
-                                       << "application/octet-stream";
-    QTest::newRow("program") << QByteArray("program") << false << "system-run"
-                             << "application/octet-stream";
-    QTest::newRow("dead link") << QByteArray("dead") << false << "dialog-cancel"
-                               << "";
-    QTest::newRow("endless link") << QByteArray("endless") << false << "dialog-cancel"
-                                  << "";
-    QTest::newRow("relative link") << QByteArray("link") << false << "text-plain"
-                                   << "";
-    QTest::newRow("broken picture") << QByteArray("broken.png") << false << "image-png"
-                                    << "image/png";
-    QTest::newRow("no UTF-8") << QByteArray("\xff.png") << false << "image-png"
-                              << "image/png";
-    QTest::newRow("waits for no writer") << QByteArray("fifo.desktop") << false << "unknown"
-                                         << "";
-}
-
 void EntryBasePropertySetTest::refinesFiles()
 {
-    QFETCH(QByteArray, name);
+    const auto &row = files[rowNumber()];
     TestTree tree;
     FakeVfs vfs;
     tree.add("text", "some text\n");
@@ -318,12 +295,12 @@ void EntryBasePropertySetTest::refinesFiles()
     tree.link("endless", "endless");
     tree.link("link", "text");
     tree.add("broken.png", "\x89PNG\r\n\x1a\nno more");
-    if (name == "\xff.png") // only then: the tree cannot remove it itself
+    if (row.name == "\xff.png") // only then: the tree cannot remove it itself
         tree.add("\xff.png", "\x89PNG\r\n\x1a\nno more");
     QCOMPARE(mkfifo(tree.bytes("fifo.desktop").constData(), 0600), 0);
     Entry entry;
     for (const Entry &child : VFS::ptr()->childs(tree.entry(), VFS::PlainListing, nullptr)) {
-        if (VFS::ptr()->urlsFromEntries(EntryList(child)).value(0).toEncoded().endsWith(name.toPercentEncoding()))
+        if (VFS::ptr()->urlsFromEntries(EntryList(child)).value(0).toEncoded().endsWith(row.name.toPercentEncoding()))
             entry = child;
     }
     QVERIFY(!entry.isNull());
@@ -331,62 +308,36 @@ void EntryBasePropertySetTest::refinesFiles()
     set.prepare(entry);
     QCOMPARE(iconOf(set, entry).name(), "unknown");
     QVERIFY(set.value(entry, 1, Qt::ToolTipRole).toString().isEmpty());
-    vfs.slow = QTest::currentDataTag() == QByteArray("by name when slow");
+    vfs.slow = row.slow;
     set.refineData(entry);
-    QTEST(iconOf(set, entry).name(), "icon");
-    QTEST(set.value(entry, 1, Qt::ToolTipRole).toString(), "mimeType");
-}
-
-void EntryBasePropertySetTest::decidesOnThumbnails_data()
-{
-    QTest::addColumn<bool>("here");
-    QTest::addColumn<bool>("inNetwork");
-    QTest::addColumn<bool>("isNetwork");
-    QTest::addColumn<int>("limitMB");
-    QTest::addColumn<QStringList>("groups");
-    QTest::addColumn<bool>("shown");
-    const QStringList image("image");
-    QTest::newRow("usual") << true << false << false << 0 << image << true;
-    QTest::newRow("off") << false << false << false << 0 << image << false;
-    QTest::newRow("not in the network") << true << false << true << 0 << image << false;
-    QTest::newRow("only in the network") << false << true << false << 0 << image << false;
-    QTest::newRow("in the network") << false << true << true << 0 << image << true;
-    QTest::newRow("everywhere") << true << true << true << 0 << image << true;
-    QTest::newRow("no group") << true << false << false << 0 << QStringList() << false;
-    QTest::newRow("above the limit") << true << false << false << 1 << image << false;
-    QTest::newRow("below the limit") << true << false << false << 3 << image << true;
-    QTest::newRow("2048 MB overflow to no limit") << true << false << false << 2048 << image << true;
-    QTest::newRow("4096 MB overflow to no limit") << true << false << false << 4096 << image << true;
+    QCOMPARE(iconOf(set, entry).name(), row.icon);
+    QCOMPARE(set.value(entry, 1, Qt::ToolTipRole).toString(), row.mimeType);
 }
 
 void EntryBasePropertySetTest::decidesOnThumbnails()
 {
-    QFETCH(bool, here);
-    QFETCH(bool, inNetwork);
-    QFETCH(int, limitMB);
-    QFETCH(QStringList, groups);
-    QFETCH(bool, shown);
+    const auto &row = thumbnails[rowNumber()];
     TestTree tree({"a.png"});
     FakeVfs vfs;
-    vfs.network = *static_cast<bool *>(QTest::qData("isNetwork", QMetaType::Bool));
+    vfs.network = row.isNetwork;
     QImage picture(40, 30, QImage::Format_RGB32);
     picture.fill(Qt::green);
     QVERIFY(picture.save(tree.path("a.png")));
-    auto *data = new FakeEntryData(tree.path("a.png"), traits({EntryTrait::Exists, EntryTrait::File}));
+    auto *data = new FakeEntryData(tree.path("a.png"), {T::Exists, T::File});
     data->local = data->path();
     data->size = 2 << 20; // for the limit only the entry's word counts
     const Entry entry(data);
     EntryViewParameters *parameters = EntryViewParameters::ptr();
-    parameters->setShowThumbnails(here);
-    parameters->setShowThumbnailsInNetwork(inNetwork);
-    parameters->setMaxImageFileSizeToShowThumbnailMB(limitMB);
-    parameters->setShownThumbnailGroups(groups);
+    parameters->setShowThumbnails(row.here);
+    parameters->setShowThumbnailsInNetwork(row.inNetwork);
+    parameters->setMaxImageFileSizeToShowThumbnailMB(row.limitMB);
+    parameters->setShownThumbnailGroups(row.groups);
     EntryBasePropertySet set;
     set.prepare(entry);
     set.refineData(entry);
     const QIcon icon = iconOf(set, entry);
-    QCOMPARE(icon.name(), shown ? QString() : QString("image-png"));
-    if (shown) {
+    QCOMPARE(icon.name(), row.shown ? QString() : QString("image-png"));
+    if (row.shown) {
         QCOMPARE(icon.pixmap(64).toImage().pixelColor(5, 5), QColor(Qt::green));
         QCOMPARE(iconOf(set, entry).cacheKey(), icon.cacheKey()); // made once, so that views may cache what they scaled
     }
@@ -457,6 +408,40 @@ void EntryBasePropertySetTest::survivesRefinementOnThePool()
     QCOMPARE(nameOf(sets[2], entries[2]), "X");
     QCOMPARE(iconOf(sets[3], entries[3]).name(), "text-plain");
     QVERIFY(!iconOf(sets[0], entries[0]).isNull());
+}
+
+/// Says how large it is, which a refinement asks after the type, only when it is told to.
+class SlowEntryData : public FakeEntryData
+{
+public:
+    using FakeEntryData::FakeEntryData;
+    qint64 fileSize() const override
+    {
+        asked.release();
+        answer.acquire();
+        return 2 << 20;
+    }
+    mutable QSemaphore asked;
+    mutable QSemaphore answer;
+};
+
+void EntryBasePropertySetTest::publishesNothingOutdated()
+{
+    TestTree tree;
+    tree.add("a", "\x89PNG\r\n\x1a\nno more");
+    auto *data = new SlowEntryData(tree.path("a"), {T::Exists, T::File});
+    data->local = data->path();
+    const Entry entry(data);
+    EntryViewParameters::ptr()->setMaxImageFileSizeToShowThumbnailMB(1);
+    EntryBasePropertySet set;
+    set.prepare(entry);
+    QFuture<void> worker = QtConcurrent::run([&] { set.refineData(entry); });
+    data->asked.acquire(); // it has found a picture
+    tree.write("a", "now a text\n");
+    set.prepare(entry);
+    data->answer.release();
+    worker.waitForFinished();
+    QCOMPARE(set.value(entry, 1, Qt::ToolTipRole), "text/plain");
 }
 
 QTEST_MAIN(EntryBasePropertySetTest)

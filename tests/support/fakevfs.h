@@ -8,24 +8,31 @@
 #include <veskplatform/storageplace.h>
 #include <veskplatform/vfs.h>
 
-#include <QSet>
 #include <QUrl>
+#include <QVector>
+
+namespace VeskFM
+{
 
 /// An entry of any kind, from nothing but what the test says. Set the fields before the entry is used.
-class FakeEntryData : public VeskFM::EntryData
+class FakeEntryData : public EntryData
 {
 public:
-    FakeEntryData(const QString &path, const QSet<int> &traits);
+    FakeEntryData(const QString &path, const QVector<EntryTrait> &initialTraits)
+        : traits(initialTraits)
+        , m_path(path)
+    {
+    }
 
     QString path() const override { return m_path; }
     int type() const override { return kind; }
-    bool is(VeskFM::EntryTrait trait) const override { return traits.contains(int(trait)); }
+    bool is(EntryTrait trait) const override { return traits.contains(trait); }
     QString localPath() const override { return local; }
     qint64 fileSize() const override { return size; }
     QString symLinkTarget() const override { return target; }
 
-    QSet<int> traits; // of VeskFM::EntryTrait
-    int kind = VeskFM::Entry::File;
+    QVector<EntryTrait> traits;
+    int kind = Entry::File;
     QString local; // empty unless set
     qint64 size = 0;
     QString target;
@@ -35,50 +42,56 @@ private:
 };
 
 /// Stands in for the VFS while it lives: the local one, except for what the test sets.
-class FakeVfs : public VeskFM::VFS
+class FakeVfs : public VFS
 {
-    Q_OBJECT
-
 public:
-    FakeVfs();
-    ~FakeVfs() override;
+    FakeVfs() { install(this); }
+    ~FakeVfs() override { install(nullptr); }
 
-    VeskFM::Entry home;
-    VeskFM::StoragePlace storage;
-    VeskFM::FavoritePlace favorite;
+    Entry home;
+    StoragePlace storage;
+    FavoritePlace favorite;
     bool slow = false;
     bool network = false; // not the home's
 
-    VeskFM::Entry homeEntry() const override { return home; }
-    VeskFM::StoragePlace storagePlace(const VeskFM::Entry &) const override { return storage; }
-    VeskFM::FavoritePlace favoritePlace(const VeskFM::Entry &) const override { return favorite; }
+    Entry homeEntry() const override { return home; }
+    StoragePlace storagePlace(const Entry &) const override { return storage; }
+    FavoritePlace favoritePlace(const Entry &) const override { return favorite; }
     bool isOnSlowFileSystem(const QString &, const QString &) const override { return slow; }
-    bool isOnNonHomeNetworkFileSystem(const VeskFM::Entry &) const override { return network; }
+    bool isOnNonHomeNetworkFileSystem(const Entry &) const override { return network; }
 
-    VeskFM::Entry entry(const QString &path) const override { return m_local->entry(path); }
-    VeskFM::Entry rootEntry() const override { return m_local->rootEntry(); }
-    VeskFM::Entry favoritesEntry() const override { return m_local->favoritesEntry(); }
-    VeskFM::Entry placesEntry() const override { return m_local->placesEntry(); }
-    VeskFM::Entry storageDevicesEntry() const override { return m_local->storageDevicesEntry(); }
-    VeskFM::Entry networkEntry() const override { return m_local->networkEntry(); }
-    VeskFM::Entry networkResourcesEntry() const override { return m_local->networkResourcesEntry(); }
-    VeskFM::Entry parent(const VeskFM::Entry &entry) const override { return m_local->parent(entry); }
-    VeskFM::Entry sibling(const VeskFM::Entry &entry, const QString &name) const override;
-    VeskFM::EntryList childs(const VeskFM::Entry &entry, EntryChildFilters filters, QAtomicInt *cancel) const override;
-    VeskFM::EntryList pathEntryList(const VeskFM::Entry &entry) const override { return m_local->pathEntryList(entry); }
-    VeskFM::EntryList pathEntryList(const VeskFM::Entry &entry, const VeskFM::Entry &from) const override;
-    bool isEntryExists(const VeskFM::Entry &entry) const override { return m_local->isEntryExists(entry); }
+    Entry entry(const QString &path) const override { return m_local->entry(path); }
+    Entry rootEntry() const override { return m_local->rootEntry(); }
+    Entry favoritesEntry() const override { return m_local->favoritesEntry(); }
+    Entry placesEntry() const override { return m_local->placesEntry(); }
+    Entry storageDevicesEntry() const override { return m_local->storageDevicesEntry(); }
+    Entry networkEntry() const override { return m_local->networkEntry(); }
+    Entry networkResourcesEntry() const override { return m_local->networkResourcesEntry(); }
+    Entry parent(const Entry &e) const override { return m_local->parent(e); }
+    Entry sibling(const Entry &e, const QString &name) const override { return m_local->sibling(e, name); }
+    EntryList childs(const Entry &e, EntryChildFilters f, QAtomicInt *c) const override
+    {
+        return m_local->childs(e, f, c);
+    }
+    EntryList pathEntryList(const Entry &e) const override { return m_local->pathEntryList(e); }
+    EntryList pathEntryList(const Entry &e, const Entry &from) const override
+    {
+        return m_local->pathEntryList(e, from);
+    }
+    bool isEntryExists(const Entry &e) const override { return m_local->isEntryExists(e); }
     QString localPath(const QString &path) const override { return m_local->localPath(path); }
-    QUrl placeUrl(const VeskFM::Entry &entry) const override { return m_local->placeUrl(entry); }
-    QList<QUrl> urlsFromEntries(const VeskFM::EntryList &entries) const override;
-    VeskFM::EntryList entriesFromUrls(const QList<QUrl> &urls) const override { return m_local->entriesFromUrls(urls); }
-    bool mayContainContainers(const VeskFM::Entry &entry) const override;
-    bool containsContainers(const VeskFM::Entry &entry) const override { return m_local->containsContainers(entry); }
-    VeskFM::Entry symLinkTargetEntry(const VeskFM::Entry &entry) const override;
-    VeskFM::VFSPlaceBase *placeBase() const override { return m_local->placeBase(); }
-    VeskFM::ArchiveMountsManagerProxy *archiveMountsManager() const override { return m_local->archiveMountsManager(); }
-    VeskFM::EntryWatcher *entryWatcher() const override { return m_local->entryWatcher(); }
+    QUrl placeUrl(const Entry &e) const override { return m_local->placeUrl(e); }
+    QList<QUrl> urlsFromEntries(const EntryList &list) const override { return m_local->urlsFromEntries(list); }
+    EntryList entriesFromUrls(const QList<QUrl> &urls) const override { return m_local->entriesFromUrls(urls); }
+    bool mayContainContainers(const Entry &e) const override { return m_local->mayContainContainers(e); }
+    bool containsContainers(const Entry &e) const override { return m_local->containsContainers(e); }
+    Entry symLinkTargetEntry(const Entry &e) const override { return m_local->symLinkTargetEntry(e); }
+    VFSPlaceBase *placeBase() const override { return m_local->placeBase(); }
+    ArchiveMountsManagerProxy *archiveMountsManager() const override { return m_local->archiveMountsManager(); }
+    EntryWatcher *entryWatcher() const override { return m_local->entryWatcher(); }
 
 private:
-    VeskFM::VFS *const m_local;
+    VFS *const m_local = VFS::ptr(); // before it is replaced
 };
+
+} // namespace VeskFM
