@@ -171,7 +171,7 @@ void PermissionsPage::apply()
     mode_t bits = 0;
     for (size_t i = 0; i < m_boxes.size(); ++i) {
         const Qt::CheckState state = m_boxes[i]->checkState();
-        if (state == m_loaded[i] || state == Qt::PartiallyChecked)
+        if (state == m_loaded[i])
             continue;
         changed |= bitOf(i);
         if (state == Qt::Checked)
