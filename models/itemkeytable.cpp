@@ -6,9 +6,12 @@
 #include <veskfm/modelitem.h>
 
 #include <QDateTime>
+#include <QVarLengthArray>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 namespace VeskFM
 {
@@ -63,42 +66,46 @@ ItemKeyTable::ItemKeyTable(const std::vector<ModelItem *> &items, const ItemComp
         prefetch(items, i);
         m_keys.push_back(comparison.key(items[i]));
     }
-    judge();
+    m_isStrictWeakOrder = isOrderly();
     if (!m_isStrictWeakOrder)
         return;
-    const bool compares = m_values != Values::None && m_values != Values::Incomparable && !comparison.ignoresValues();
-    m_valuesLeft = compares && m_values == Values::Texts;
     m_elements.reserve(items.size());
     for (const ItemKey &key : m_keys) {
-        const bool isNumber = compares && m_values != Values::Texts && !key.isPlace;
-        const KeyPrefix prefix = {isNumber ? numberPrefix(key.value) : 0, 0};
-        m_elements.push_back({rankOf(key), prefix, quint32(m_elements.size())});
+        const Values values = comparison.ignoresValues() ? Values::Incomparable : kindOf(key);
+        const bool isText = values == Values::Texts;
+        const bool isNumber = !isText && values != Values::Incomparable;
+        const KeyPrefix prefix = {isNumber ? numberPrefix(key) : 0, 0};
+        m_elements.push_back({rankOf(key), prefix, quint32(m_elements.size()), isText});
     }
 }
 
-/// Values of different types are equal to each other pair by pair, or compare as texts, which orders nothing as a
-/// whole; likewise a number that is none.
-void ItemKeyTable::judge()
+/// Within a group, values of different types are equal to each other pair by pair, or compare as texts, which orders
+/// nothing as a whole; likewise a number that is none.
+bool ItemKeyTable::isOrderly() const
 {
+    QVarLengthArray<std::pair<qint64, Values>, 8> groups;
     for (const ItemKey &key : m_keys) {
-        if (key.isPlace)
+        if (key.isPlace) // goes by its index alone
             continue;
-        const Values values = kindOf(key.value);
-        if (m_values == Values::None)
-            m_values = values;
-        else if (values != m_values)
-            m_values = Values::Mixed;
-        if (ItemComparison::isCyclicType(key.type) || m_values == Values::Mixed
-            || (values == Values::Doubles && std::isnan(key.value.toDouble()))) {
-            m_isStrictWeakOrder = false;
-            return;
-        }
+        if (ItemComparison::isCyclicType(key.type))
+            return false;
+        const Values values = kindOf(key);
+        if (values == Values::Doubles && std::isnan(key.value.toDouble()))
+            return false;
+        const qint64 rank = rankOf(key);
+        const auto group =
+            std::find_if(groups.begin(), groups.end(), [rank](const auto &g) { return g.first == rank; });
+        if (group == groups.end())
+            groups.append({rank, values});
+        else if (group->second != values)
+            return false;
     }
+    return true;
 }
 
-ItemKeyTable::Values ItemKeyTable::kindOf(const QVariant &value)
+ItemKeyTable::Values ItemKeyTable::kindOf(const ItemKey &key)
 {
-    switch (value.userType()) {
+    switch (key.value.userType()) { // that of a place is invalid
     case QMetaType::QString:
         return Values::Texts;
     case QMetaType::QDateTime:
@@ -118,57 +125,51 @@ ItemKeyTable::Values ItemKeyTable::kindOf(const QVariant &value)
     }
 }
 
-quint64 ItemKeyTable::numberPrefix(const QVariant &value) const
+quint64 ItemKeyTable::numberPrefix(const ItemKey &key)
 {
-    switch (m_values) {
+    switch (kindOf(key)) {
     case Values::DateTimes:
-        return ascending(value.toDateTime().toMSecsSinceEpoch());
+        return ascending(key.value.toDateTime().toMSecsSinceEpoch());
     case Values::Doubles:
-        return ascending(value.toDouble());
+        return ascending(key.value.toDouble());
     case Values::Ints:
     case Values::LongLongs:
-        return ascending(value.toLongLong());
+        return ascending(key.value.toLongLong());
     default:
-        return value.toULongLong();
+        return key.value.toULongLong();
     }
 }
 
 void ItemKeyTable::pack()
 {
-    if (!m_valuesLeft || m_elements.empty())
-        return;
     if (m_comparison.texts() != ItemComparison::Texts::Collated) {
         packTexts();
         return;
     }
     m_sortKeys.reserve(m_keys.size());
-    for (const ItemKey &key : m_keys)
-        m_sortKeys.push_back(m_comparison.collator().sortKey(key.value.toString()));
+    for (const Element &element : m_elements)
+        m_sortKeys.push_back(m_comparison.collator().sortKey(element.isText ? text(element.key) : QString()));
 }
 
 void ItemKeyTable::packTexts()
 {
-    quint32 first = 0;
-    while (first < m_keys.size() && m_keys[first].isPlace)
-        ++first;
-    if (first == m_keys.size())
+    const auto first = std::find_if(m_elements.begin(), m_elements.end(), [](const Element &e) { return e.isText; });
+    if (first == m_elements.end())
         return;
-    qsizetype skip = text(first).size();
-    for (quint32 key = first; key < m_keys.size(); ++key) {
-        if (!m_keys[key].isPlace)
-            skip = commonPrefixLength(text(key), text(first), skip);
+    qsizetype skip = text(first->key).size();
+    for (const Element &element : m_elements) {
+        if (element.isText)
+            skip = commonPrefixLength(text(element.key), text(first->key), skip);
     }
     const bool natural = m_comparison.texts() == ItemComparison::Texts::Natural;
     for (Element &element : m_elements) {
-        if (!m_keys[element.key].isPlace)
+        if (element.isText)
             element.prefix = natural ? naturalPrefix(text(element.key), skip) : codeUnitPrefix(text(element.key), skip);
     }
 }
 
-int ItemKeyTable::compare(quint32 a, quint32 b) const
+int ItemKeyTable::compareTexts(quint32 a, quint32 b) const
 {
-    if (m_keys[a].isPlace) // the rank told all: equal places are equal
-        return 0;
     if (!m_sortKeys.empty())
         return m_sortKeys[a].compare(m_sortKeys[b]);
     return m_comparison.compareTexts(text(a), text(b));

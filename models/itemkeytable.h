@@ -13,7 +13,7 @@ namespace VeskFM
 
 /// The keys of many items, each read once, in a form that compares fast.
 ///
-/// An Element is what a sort moves about. Most pairs differ in its two numbers; the rest looks at the values.
+/// An Element is what a sort moves about. Most pairs differ in its numbers; the rest looks at the texts.
 class ItemKeyTable
 {
 public:
@@ -22,6 +22,7 @@ public:
         qint64 rank;      // "..", places and groups of kinds
         KeyPrefix prefix; // of the value, ascending whatever the sort order; zero before pack()
         quint32 key;      // position of the item in the list that the table was made from
+        bool isText;      // as all of the same rank are: where prefixes are equal, the texts tell
     };
 
     ItemKeyTable(const std::vector<ModelItem *> &items, const ItemComparison &comparison);
@@ -39,24 +40,24 @@ public:
             return a.rank < b.rank;
         if (!(a.prefix == b.prefix))
             return m_isDescending ? b.prefix < a.prefix : a.prefix < b.prefix;
-        return m_valuesLeft && (m_isDescending ? compare(b.key, a.key) : compare(a.key, b.key)) < 0;
+        if (!a.isText)
+            return false;
+        return (m_isDescending ? compareTexts(b.key, a.key) : compareTexts(a.key, b.key)) < 0;
     }
 
 private:
-    enum class Values { None, Texts, DateTimes, Doubles, Ints, UInts, LongLongs, ULongLongs, Incomparable, Mixed };
+    enum class Values : quint8 { Texts, DateTimes, Doubles, Ints, UInts, LongLongs, ULongLongs, Incomparable };
 
-    static Values kindOf(const QVariant &value);
-    void judge();
-    quint64 numberPrefix(const QVariant &value) const;
+    static Values kindOf(const ItemKey &key);
+    bool isOrderly() const;
+    static quint64 numberPrefix(const ItemKey &key);
     void packTexts();
     const QString &text(quint32 key) const { return *static_cast<const QString *>(m_keys[key].value.constData()); }
-    int compare(quint32 a, quint32 b) const;
+    int compareTexts(quint32 a, quint32 b) const;
 
     const ItemComparison &m_comparison;
     const bool m_isDescending;
-    bool m_isStrictWeakOrder = true;
-    bool m_valuesLeft = false; // equal elements may still differ in their values
-    Values m_values = Values::None;
+    bool m_isStrictWeakOrder;
     std::vector<ItemKey> m_keys;
     std::vector<Element> m_elements;
     std::vector<QCollatorSortKey> m_sortKeys; // by key, for collated texts once packed

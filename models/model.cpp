@@ -14,6 +14,8 @@
 #include <QDataStream>
 #include <QSet>
 
+#include <algorithm>
+
 namespace VeskFM
 {
 
