@@ -45,10 +45,7 @@ private:
 
 Entry fake(const QString &name, std::initializer_list<EntryTrait> traits)
 {
-    QSet<int> set;
-    for (const EntryTrait trait : traits)
-        set.insert(int(trait));
-    return Entry(new FakeEntryData(QStringLiteral("/") + name, set));
+    return Entry(new FakeEntryData(QStringLiteral("/") + name, traits));
 }
 
 const Entry &file() // and so on: what the table below names

@@ -10,29 +10,31 @@
 
 #include <QHash>
 
+#include <algorithm>
+
+namespace VeskFM
+{
+
 /// A watcher that only takes down what it is asked for: the test emits its signals.
-class FakeWatcher : public VeskFM::EntryWatcher
+class FakeWatcher : public EntryWatcher
 {
 public:
-    void listDir(const VeskFM::Entry &entry, VeskFM::VFS::EntryChildFilters filters) override
+    void listDir(const Entry &entry, VFS::EntryChildFilters filters) override
     {
         asked.append(entry.path() + QLatin1Char(' ') + QString::number(filters));
     }
-    void addBadEntry(const VeskFM::Entry &entry) override { bad.append(entry.path()); }
+    void addBadEntry(const Entry &entry) override { bad.append(entry.path()); }
 
     QStringList asked; // path and filters of each listing
     QStringList bad;
 };
 
 /// Places in the order that the test gives their paths.
-class FakePlaces : public VeskFM::VFSPlaceBase
+class FakePlaces : public VFSPlaceBase
 {
 public:
-    VeskFM::EntryList childEntries(const VeskFM::Entry &) const override { return {}; }
-    int placeOrderIndex(const VeskFM::Entry &place, const VeskFM::Entry &) const override
-    {
-        return order.value(place.path());
-    }
+    EntryList childEntries(const Entry &) const override { return {}; }
+    int placeOrderIndex(const Entry &place, const Entry &) const override { return order.value(place.path()); }
 
     QHash<QString, int> order;
 };
@@ -42,38 +44,38 @@ class TreeVfs : public FakeVfs
 {
 public:
     /// The entry of @p path, newly made; directories and links behave like those of a disk.
-    VeskFM::Entry add(const QString &path, int kind = VeskFM::Entry::File,
-                      std::initializer_list<VeskFM::EntryTrait> more = {})
+    Entry add(const QString &path, int kind = Entry::File, std::initializer_list<EntryTrait> more = {})
     {
-        using VeskFM::EntryTrait;
-        const bool isDir = kind == VeskFM::Entry::Dir || kind == VeskFM::Entry::DirLink;
-        QSet<int> traits = {int(EntryTrait::Exists), int(isDir ? EntryTrait::Dir : EntryTrait::File)};
-        for (const EntryTrait trait : more)
-            traits.insert(int(trait));
-        if (traits.contains(int(EntryTrait::Place)))
-            traits.remove(int(EntryTrait::File));
+        const bool isPlace = std::find(more.begin(), more.end(), EntryTrait::Place) != more.end();
+        const bool isDir = kind == Entry::Dir || kind == Entry::DirLink;
+        QVector<EntryTrait> traits(more);
+        traits.append(EntryTrait::Exists);
+        if (!isPlace)
+            traits.append(isDir ? EntryTrait::Dir : EntryTrait::File);
         auto *const data = new FakeEntryData(path, traits);
         data->kind = kind;
-        const VeskFM::Entry made(data);
+        const Entry made(data);
         nodes.insert(path, made);
         return made;
     }
 
-    VeskFM::Entry entry(const QString &path) const override { return nodes.value(path); }
-    VeskFM::Entry rootEntry() const override { return nodes.value(QStringLiteral("/")); }
-    VeskFM::Entry parent(const VeskFM::Entry &entry) const override { return nodes.value(parentDirPath(entry.path())); }
-    bool isEntryExists(const VeskFM::Entry &entry) const override { return nodes.contains(entry.path()); }
-    VeskFM::EntryList pathEntryList(const VeskFM::Entry &entry) const override
+    Entry entry(const QString &path) const override { return nodes.value(path); }
+    Entry rootEntry() const override { return nodes.value(QStringLiteral("/")); }
+    Entry parent(const Entry &entry) const override { return nodes.value(parentDirPath(entry.path())); }
+    bool isEntryExists(const Entry &entry) const override { return nodes.contains(entry.path()); }
+    EntryList pathEntryList(const Entry &entry) const override
     {
-        VeskFM::EntryList list;
+        EntryList list;
         for (QString path = entry.path(); nodes.contains(path); path = parentDirPath(path))
             list.prepend(nodes.value(path));
         return list;
     }
-    VeskFM::VFSPlaceBase *placeBase() const override { return &places; }
-    VeskFM::EntryWatcher *entryWatcher() const override { return &watcher; }
+    VFSPlaceBase *placeBase() const override { return &places; }
+    EntryWatcher *entryWatcher() const override { return &watcher; }
 
-    QHash<QString, VeskFM::Entry> nodes; // by path; what is not in here does not exist
+    QHash<QString, Entry> nodes; // by path; what is not in here does not exist
     mutable FakePlaces places;
     mutable FakeWatcher watcher;
 };
+
+} // namespace VeskFM
