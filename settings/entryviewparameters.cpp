@@ -105,7 +105,7 @@ bool EntryViewParameters::showThumbnailsInNetwork() const
 
 QStringList EntryViewParameters::shownThumbnailGroups() const
 {
-    const QMutexLocker lock(&m_groupsMutex);
+    const std::lock_guard<std::mutex> lock(m_groupsMutex);
     return m_shownThumbnailGroups;
 }
 
@@ -166,7 +166,7 @@ void EntryViewParameters::setShowThumbnailsInNetwork(bool on)
 void EntryViewParameters::setShownThumbnailGroups(const QStringList &groups)
 {
     {
-        const QMutexLocker lock(&m_groupsMutex);
+        const std::lock_guard<std::mutex> lock(m_groupsMutex);
         if (m_shownThumbnailGroups == groups)
             return;
         m_shownThumbnailGroups = groups;

@@ -24,9 +24,15 @@ namespace VeskFM
 namespace
 {
 
-void restartWatching()
+void endWatching()
 {
-    SettingsPrivate::restartWatching();
+    SettingsPrivate::onApplicationEnding();
+}
+
+void beginWatching()
+{
+    qAddPostRoutine(endWatching);
+    SettingsPrivate::onApplicationStarted();
 }
 
 /// Command lines of the applications whose desktop entries are under @p directory, each once.
@@ -50,7 +56,7 @@ QStringList execsUnder(const QString &directory)
 
 } // namespace
 
-Q_COREAPP_STARTUP_FUNCTION(restartWatching)
+Q_COREAPP_STARTUP_FUNCTION(beginWatching)
 
 std::atomic<Settings *> Settings::m_ptr{nullptr};
 
@@ -82,13 +88,19 @@ Settings *Settings::ptr()
     return m_ptr.load();
 }
 
-void SettingsPrivate::restartWatching()
+void SettingsPrivate::onApplicationStarted()
 {
     Settings *const settings = Settings::m_ptr.load();
     if (!settings)
         return;
     settings->d->startWatching();
     QMetaObject::invokeMethod(settings, &Settings::refresh, Qt::QueuedConnection); // what changed unwatched
+}
+
+void SettingsPrivate::onApplicationEnding()
+{
+    if (const Settings *settings = Settings::m_ptr.load())
+        settings->d->watch.reset();
 }
 
 void Settings::sync()

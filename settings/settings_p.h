@@ -38,10 +38,12 @@ public:
     void forgetMenuChanges();
     void findKioskMode();
 
-    /// Watches the file from now on; without an application object, as soon as there is one.
-    void startWatching();
-    /// For a new application object: a watch that was made without it, or with a former one, is dead.
-    static void restartWatching();
+    void startWatching(); ///< does nothing without an application object
+
+    /// The watch of the one instance lives between these: it needs the event loop, and with the application object goes
+    /// what all watches of the process share.
+    static void onApplicationStarted();
+    static void onApplicationEnding();
 
     Settings *const q;
     std::array<QVariant, settingsKeyCount> values; // by key

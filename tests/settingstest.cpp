@@ -359,12 +359,20 @@ void SettingsTest::kioskExecs()
 
 void SettingsTest::oneInstance()
 {
-    Settings *const settings = Settings::ptr();
-    QCOMPARE(Settings::ptr(), settings);
-    QPointer<Settings> first(settings);
-    delete settings;
+    QPointer<Settings> first(Settings::ptr()); // made before the application object, and watching since there is one
+    QSignalSpy changed(first, &Settings::alternateRowColorsInTableChanged);
+    write("[Global]\nalternateRowColorsInTable=false\n");
+    QVERIFY(changed.wait());
+    delete first;
     QVERIFY(Settings::ptr() && first.isNull()); // the new one is deleted at exit, after the application object
 }
 
-QTEST_GUILESS_MAIN(SettingsTest)
+int main(int argc, char **argv)
+{
+    Settings::ptr();
+    QCoreApplication application(argc, argv);
+    SettingsTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "settingstest.moc"

@@ -5,11 +5,11 @@
 
 #include <veskfm/export.h>
 
-#include <QMutex>
 #include <QObject>
 #include <QStringList>
 
 #include <atomic>
+#include <mutex>
 
 namespace VeskFM
 {
@@ -81,7 +81,7 @@ private:
     std::atomic<bool> m_showFileSizeInBytes{false};
     std::atomic<bool> m_kineticScrollingEnabled{true};
     std::atomic<bool> m_pinchZoomEnabled{true};
-    mutable QMutex m_groupsMutex;
+    mutable std::mutex m_groupsMutex;
     QStringList m_shownThumbnailGroups{QStringLiteral("image")}; // guarded by m_groupsMutex
 };
 
