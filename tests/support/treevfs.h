@@ -52,6 +52,8 @@ public:
         traits.append(EntryTrait::Exists);
         if (!isPlace)
             traits.append(isDir ? EntryTrait::Dir : EntryTrait::File);
+        if (path.contains(QLatin1String("/.")))
+            traits.append(EntryTrait::Hidden);
         auto *const data = new FakeEntryData(path, traits);
         data->kind = kind;
         const Entry made(data);
