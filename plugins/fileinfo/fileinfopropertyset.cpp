@@ -13,6 +13,7 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
+#include <QThread>
 
 #include <cstring>
 #include <thread>
@@ -39,6 +40,12 @@ QString sizeText(qint64 bytes)
     if (EntryViewParameters::ptr()->showFileSizeInBytes())
         return QCoreApplication::translate("FileInfo", "%1 B").arg(bytes);
     return Core::dataSizeAsString(bytes);
+}
+
+bool isGuiThread()
+{
+    const QCoreApplication *const application = QCoreApplication::instance();
+    return application && QThread::currentThread() == application->thread();
 }
 
 } // namespace
@@ -82,15 +89,15 @@ void FileInfoPropertySet::prepare(const Entry &entry)
     ++m_generation;
 }
 
-QVariant FileInfoPropertySet::value(const Entry &, int index, int role) const
+QVariant FileInfoPropertySet::value(const Entry &entry, int index, int role) const
 {
     if (index == Size)
-        return sizeValue(role);
+        return sizeValue(entry, role);
     if (role != Qt::DisplayRole && role != sortKeyRole)
         return {};
     if (index == Modified)
-        return modifiedValue(role);
-    const Facts known = facts();
+        return modifiedValue(entry, role);
+    const Facts known = facts(entry);
     const bool isKnown = known.known == Known::Facts;
     if (index == Owner)
         return isKnown ? userName(known.uid) : QString();
@@ -99,7 +106,7 @@ QVariant FileInfoPropertySet::value(const Entry &, int index, int role) const
     return {};
 }
 
-QVariant FileInfoPropertySet::sizeValue(int role) const
+QVariant FileInfoPropertySet::sizeValue(const Entry &entry, int role) const
 {
     switch (role) {
     case Qt::DisplayRole:
@@ -110,15 +117,15 @@ QVariant FileInfoPropertySet::sizeValue(int role) const
     case bytesRole:
         return qlonglong(qMax<qint64>(m_size, 0));
     case badEntryRole:
-        return m_size == unreadable || facts().known == Known::Failure;
+        return m_size == unreadable || facts(entry).known == Known::Failure;
     default:
         return {};
     }
 }
 
-QVariant FileInfoPropertySet::modifiedValue(int role) const
+QVariant FileInfoPropertySet::modifiedValue(const Entry &entry, int role) const
 {
-    const Facts known = facts();
+    const Facts known = facts(entry);
     if (known.known != Known::Facts)
         return role == sortKeyRole ? QVariant(QDateTime()) : QVariant(QString());
     if (role == sortKeyRole) // in UTC, which needs no time-zone look-up
@@ -133,6 +140,11 @@ bool FileInfoPropertySet::canRefineData(const Entry &entry) const
 
 void FileInfoPropertySet::refineData(const Entry &entry)
 {
+    if (isGuiThread()) { // sorting asks for this before the first key; by size, no file needs to be looked at
+        const Guard guard(this);
+        m_facts.known = Known::WhenAsked;
+        return;
+    }
     for (int attempt = 0; attempt < refineAttempts; ++attempt) {
         quint16 generation = 0;
         {
@@ -167,10 +179,17 @@ FileInfoPropertySet::Facts FileInfoPropertySet::read(const Entry &entry)
     return facts;
 }
 
-FileInfoPropertySet::Facts FileInfoPropertySet::facts() const
+FileInfoPropertySet::Facts FileInfoPropertySet::facts(const Entry &entry) const
 {
+    {
+        const Guard guard(this);
+        if (m_facts.known != Known::WhenAsked)
+            return m_facts;
+    }
+    const Facts fresh = read(entry);
     const Guard guard(this);
-    return m_facts;
+    m_facts = fresh;
+    return fresh;
 }
 
 } // namespace VeskFM

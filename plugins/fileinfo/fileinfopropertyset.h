@@ -30,7 +30,7 @@ public:
     void refineData(const Entry &entry) override;
 
 private:
-    enum class Known : quint8 { Nothing, Facts, Failure };
+    enum class Known : quint8 { Nothing, WhenAsked, Facts, Failure };
     /// What one lstat() tells.
     struct Facts
     {
@@ -42,12 +42,12 @@ private:
     class Guard;
 
     static Facts read(const Entry &entry);
-    Facts facts() const;
-    QVariant sizeValue(int role) const;
-    QVariant modifiedValue(int role) const;
+    Facts facts(const Entry &entry) const; // reads them first where they are due when asked for
+    QVariant sizeValue(const Entry &entry, int role) const;
+    QVariant modifiedValue(const Entry &entry, int role) const;
 
     qint64 m_size = noSize; // owner's thread
-    Facts m_facts;
+    mutable Facts m_facts;
     mutable std::atomic_flag m_lock = ATOMIC_FLAG_INIT; // guards m_facts and m_generation, held for instructions only
     quint16 m_generation = 0;                           // counts preparations, so that a refinement notices one
 
