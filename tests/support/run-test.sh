@@ -3,14 +3,17 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
 
 # Runs one test program with a home, XDG directories and a session bus of its own, and leaves nothing behind.
+# VESKFM_TEST_SERVICES: directories, separated by ":", with the activation files that the bus knows; none without it.
 here=$(dirname "$(readlink -f "$0")")
 scratch=$(mktemp -d "${TMPDIR:-/tmp}/veskfm-test.XXXXXX") || exit 1
 trap 'chmod -R u+rwx "$scratch"; rm -rf "$scratch"' EXIT
 mkdir -p "$scratch/home" "$scratch/run" "$scratch/tmp"
 chmod 700 "$scratch/run"
+servicedirs=$(IFS=:; for dir in ${VESKFM_TEST_SERVICES:-}; do printf '<servicedir>%s</servicedir>' "$dir"; done)
+sed "s|<!-- service directories -->|$servicedirs|" "$here/session.conf" >"$scratch/session.conf"
 env -u DISPLAY -u WAYLAND_DISPLAY -u ROOT_DISPLAY -u SUDO_USER -u XDG_CURRENT_DESKTOP -u DBUS_SESSION_BUS_ADDRESS \
     HOME="$scratch/home" TMPDIR="$scratch/tmp" LANG=C.UTF-8 LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen \
     XDG_CONFIG_HOME="$scratch/home/.config" XDG_DATA_HOME="$scratch/home/.local/share" \
     XDG_CACHE_HOME="$scratch/home/.cache" XDG_STATE_HOME="$scratch/home/.local/state" XDG_RUNTIME_DIR="$scratch/run" \
     XDG_CONFIG_DIRS=/etc/xdg XDG_DATA_DIRS=/usr/local/share:/usr/share \
-    dbus-run-session --config-file="$here/session.conf" -- "$@"
+    dbus-run-session --config-file="$scratch/session.conf" -- "$@"
