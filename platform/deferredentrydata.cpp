@@ -32,10 +32,7 @@ int DeferredEntryData::type() const
 
 bool DeferredEntryData::is(EntryTrait trait) const
 {
-    return trait < EntryTrait::ArchiveMountPoint || trait == EntryTrait::HomeDirPlace
-            || trait == EntryTrait::TrashDirPlace
-        ? looked().is(trait)
-        : false; // no place, whatever the disk says
+    return trait < EntryTrait::ArchiveMountPoint && looked().is(trait); // no place, whatever the disk says
 }
 
 QString DeferredEntryData::localPath() const

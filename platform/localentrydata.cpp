@@ -144,10 +144,6 @@ bool LocalEntryData::is(EntryTrait trait) const
         return m_flags & LocalFacts::Executable;
     case EntryTrait::FSRoot:
         return m_nameSize == 0;
-    case EntryTrait::HomeDirPlace:
-        return is(EntryTrait::Dir) && m_path == localHomePath();
-    case EntryTrait::TrashDirPlace:
-        return is(EntryTrait::Dir) && m_path == localTrashPath();
     default:
         return false;
     }

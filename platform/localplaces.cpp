@@ -30,7 +30,6 @@ public:
         , m_localPath(localPath)
     {
         set(EntryTrait::Exists); // whether a directory behind it does is for its listing to find out
-        set(EntryTrait::Dir);
         set(EntryTrait::Place);
         set(localPath.isEmpty() ? EntryTrait::PurePlace : EntryTrait::DirPlace);
     }

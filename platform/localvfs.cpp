@@ -41,11 +41,26 @@ QByteArray withoutDotDot(const QByteArray &path)
     const std::unique_ptr<char, FreeDeleter> resolved(realpath(path.left(end).constData(), nullptr));
     return resolved ? QByteArray(resolved.get()) + path.mid(end) : QByteArray();
 }
+
+/// The home directory as one of the fixed roots. Met in a listing it is a directory like any other.
+class HomeEntryData : public DeferredEntryData
+{
+public:
+    HomeEntryData()
+        : DeferredEntryData(localHomePath())
+    {
+    }
+    bool is(EntryTrait trait) const override
+    {
+        return trait == EntryTrait::HomeDirPlace || DeferredEntryData::is(trait);
+    }
+};
+
 } // namespace
 
 LocalVfs::LocalVfs(QObject *parent)
     : VFS(parent)
-    , m_home(makeLocalEntry(localHomePath(), false, true))
+    , m_home(new HomeEntryData)
     , m_watcher(new LocalEntryWatcher(this))
 {
 }
@@ -227,7 +242,7 @@ EntryList LocalVfs::entriesFromUrls(const QList<QUrl> &urls) const
 
 bool LocalVfs::mayContainContainers(const Entry &entry) const
 {
-    return entry.isDir();
+    return entry.isDir() || entry.isPlace();
 }
 
 bool LocalVfs::containsContainers(const Entry &entry) const

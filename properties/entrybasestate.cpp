@@ -280,13 +280,15 @@ EntryBaseStatePtr EntryBaseState::refined(const EntryBaseState &before, const En
     }
     if (entry.isFSRoot())
         return {};
-    if (!placeIconName(entry).isEmpty())
-        return {}; // a fixed icon, set by the preparation; also of directories: home and trash must not turn into "folder"
     if (entry.isDir()) {
         if (!presentationUpdate && isChildOfHome(entry))
             return {}; // done by the preparation
         takeDirectory(state, entry);
-    } else if (!entry.isExists() || isDeadLink(entry)) {
+        return published(std::move(state));
+    }
+    if (!placeIconName(entry).isEmpty())
+        return {}; // a fixed icon, set by the preparation
+    if (!entry.isExists() || isDeadLink(entry)) {
         state.icon = IconRecipe();
         state.icon.name = QStringLiteral("dialog-cancel");
     } else if (entry.isFile()) {

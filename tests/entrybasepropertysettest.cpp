@@ -67,8 +67,8 @@ const struct
     QString icon;
 } places[] = {
     {"first match wins", {T::Place, T::HomeDirPlace, T::ComputerPlace}, "", 0, "", "node", "computer"},
-    {"home stays home", {T::Place, T::HomeDirPlace, T::DirPlace, T::Dir}, "/h", 0, "", "node", "user-home"},
-    {"trash by its path", {T::Dir}, trashDir, 0, "", "node", "user-trash"},
+    {"home stays home", {T::Place, T::HomeDirPlace, T::DirPlace}, "/h", 0, "", "node", "user-home"},
+    {"trash by its path", {T::Place, T::DirPlace}, trashDir, 0, "", "node", "user-trash"},
     {"share", {T::Place, T::SFtpSharePlace}, "", 0, "", "node", "folder-remote"},
     {"disk", {T::Place, T::StoragePlace}, "/mnt/%1", 4, "", "node (/mnt/%1)", "drive-harddisk"},
     {"stick", {T::Place, T::StoragePlace}, "", 3, "", "node", "drive-removable-media-usb-pendrive"},
