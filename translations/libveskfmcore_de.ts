@@ -201,4 +201,38 @@
         <translation>TB</translation>
     </message>
 </context>
+<context>
+    <name>Service</name>
+    <message>
+        <source>Debug message</source>
+        <translation>Meldung zur Fehlersuche</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Kritisch</translation>
+    </message>
+    <message>
+        <source>Fatal</source>
+        <translation>Schwerer Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceInterfaceSingletone</name>
+    <message>
+        <source>can&apos;t connect to DBus service %1, perhaps usage &apos;dbus-launch &lt;program&gt;&apos; can solve this problem</source>
+        <translation>Keine Verbindung zum DBus-Dienst %1; vielleicht hilft ein Aufruf mit „dbus-launch &lt;Programm&gt;“</translation>
+    </message>
+    <message>
+        <source>service %1 was not installed, perhaps usage &apos;dbus-launch &lt;program&gt;&apos; can solve this problem</source>
+        <translation>Der Dienst %1 ist nicht installiert; vielleicht hilft ein Aufruf mit „dbus-launch &lt;Programm&gt;“</translation>
+    </message>
+    <message>
+        <source>DBus service %1 does not answer: %2</source>
+        <translation>Der DBus-Dienst %1 antwortet nicht: %2</translation>
+    </message>
+</context>
 </TS>

@@ -203,4 +203,38 @@
         <translation>ТБ</translation>
     </message>
 </context>
+<context>
+    <name>Service</name>
+    <message>
+        <source>Debug message</source>
+        <translation>Отладочное сообщение</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>Critical</source>
+        <translation>Критическая ошибка</translation>
+    </message>
+    <message>
+        <source>Fatal</source>
+        <translation>Фатальная ошибка</translation>
+    </message>
+</context>
+<context>
+    <name>ServiceInterfaceSingletone</name>
+    <message>
+        <source>can&apos;t connect to DBus service %1, perhaps usage &apos;dbus-launch &lt;program&gt;&apos; can solve this problem</source>
+        <translation>не удалось подключиться к службе DBus %1; возможно, поможет запуск через «dbus-launch &lt;программа&gt;»</translation>
+    </message>
+    <message>
+        <source>service %1 was not installed, perhaps usage &apos;dbus-launch &lt;program&gt;&apos; can solve this problem</source>
+        <translation>служба %1 не установлена; возможно, поможет запуск через «dbus-launch &lt;программа&gt;»</translation>
+    </message>
+    <message>
+        <source>DBus service %1 does not answer: %2</source>
+        <translation>служба DBus %1 не отвечает: %2</translation>
+    </message>
+</context>
 </TS>
