@@ -17,9 +17,8 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <condition_variable>
 #include <cstring>
-#include <deque>
+#include <limits>
 #include <memory>
 #include <mutex>
 #include <system_error>
@@ -31,8 +30,9 @@ namespace VeskFM
 
 namespace
 {
-constexpr int namesPerChunk = 1024; // below it a second thread costs more than it saves
-constexpr int mostThreads = 4;      // the kernel's directory locks leave nothing to more
+constexpr int namesPerChunk = 256; // few enough that the kernel's records of them are still in the processor's cache
+constexpr int chunksAlone = 4;     // for fewer a second thread costs more than it saves
+constexpr int mostThreads = 4;     // the kernel's directory locks leave nothing to more
 
 struct DirCloser
 {
@@ -77,6 +77,11 @@ struct NameChunk
     {
         names.reserve(namesPerChunk);
         text.reserve(size_t(namesPerChunk) * 24);
+    }
+    void clear()
+    {
+        text.clear();
+        names.clear();
     }
     void add(const dirent *found)
     {
@@ -151,8 +156,8 @@ private:
     const bool m_archivesAsFiles;
 };
 
-/// One listing under way. The calling thread reads names; rows are made of them by helpers meanwhile and by itself
-/// afterwards; each sorts what it made.
+/// One listing under way. Each thread reads some names, makes rows of them, and comes back for more; in the end it sorts
+/// what it made.
 class Listing
 {
 public:
@@ -165,19 +170,18 @@ public:
 
     EntryList run()
     {
-        // Reserved, so that the list of a thread stays where it is while others are added.
-        m_rows.reserve(mostThreads);
+        m_rows.resize(1);
+        makeRows(&m_rows.front(), chunksAlone);
         std::vector<std::thread> helpers;
-        const int mostHelpers = qBound(0, QThread::idealThreadCount() - 1, mostThreads - 1);
-        while (readChunk()) {
-            if (int(helpers.size()) < mostHelpers && m_rows.size() == helpers.size())
-                startHelper(&helpers);
+        if (!m_allRead) {
+            m_rows.resize(size_t(qBound(1, QThread::idealThreadCount(), mostThreads)));
+            for (size_t i = 1; i < m_rows.size(); ++i)
+                startHelper(&helpers, &m_rows[i]);
         }
-        finishReading();
-        m_rows.emplace_back();
-        makeRows(&m_rows.back());
+        makeRows(&m_rows.front(), std::numeric_limits<int>::max());
         for (std::thread &helper : helpers)
             helper.join();
+        std::sort(m_rows.front().rbegin(), m_rows.front().rend());
         return merged();
     }
 
@@ -186,62 +190,45 @@ private:
 
     bool isCancelled() const { return m_cancel && m_cancel->loadRelaxed() != 0; }
 
-    /// False when the directory holds no more than was read.
-    bool readChunk()
+    void startHelper(std::vector<std::thread> *helpers, Rows *rows)
     {
-        NameChunk chunk;
-        const dirent *found = nullptr;
-        while (chunk.names.size() < size_t(namesPerChunk) && !isCancelled() && (found = readdir(m_dir))) {
-            if (!isDotOrDotDot(found->d_name))
-                chunk.add(found);
-        }
-        const bool more = found;
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_chunks.push_back(std::move(chunk));
-        m_changed.notify_one();
-        return more;
-    }
-
-    void finishReading()
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_allRead = true;
-        m_changed.notify_all();
-    }
-
-    void startHelper(std::vector<std::thread> *helpers)
-    {
-        m_rows.emplace_back();
+        const auto work = [this, rows] {
+            makeRows(rows, std::numeric_limits<int>::max());
+            std::sort(rows->rbegin(), rows->rend());
+        };
         try {
-            helpers->emplace_back(&Listing::makeRows, this, &m_rows.back());
+            helpers->emplace_back(work);
         } catch (const std::system_error &) {
-            // No more threads to be had: m_rows now has one list more than there are helpers, which ends the attempts.
+            // No more threads to be had: those there are do it all.
         }
     }
 
-    bool takeChunk(NameChunk *chunk)
-    {
-        std::unique_lock<std::mutex> lock(m_mutex);
-        m_changed.wait(lock, [this] { return !m_chunks.empty() || m_allRead; });
-        if (m_chunks.empty())
-            return false;
-        *chunk = std::move(m_chunks.front());
-        m_chunks.pop_front();
-        return true;
-    }
-
-    void makeRows(Rows *rows)
+    void makeRows(Rows *rows, int chunks)
     {
         NameChunk chunk;
-        while (takeChunk(&chunk)) {
+        for (; chunks > 0 && readChunk(&chunk); --chunks) {
             for (const FoundName &found : chunk.names) {
                 if (isCancelled())
-                    break;
+                    return;
                 if (LocalEntryData *const data = m_maker.make(chunk.text.data() + found.offset, found))
                     rows->emplace_back(data);
             }
         }
-        std::sort(rows->rbegin(), rows->rend());
+    }
+
+    /// False when there are no more names.
+    bool readChunk(NameChunk *chunk)
+    {
+        chunk->clear();
+        const std::lock_guard<std::mutex> lock(m_readMutex);
+        while (!m_allRead && chunk->names.size() < size_t(namesPerChunk)) {
+            const dirent *const found = isCancelled() ? nullptr : readdir(m_dir);
+            if (!found)
+                m_allRead = true;
+            else if (!isDotOrDotDot(found->d_name))
+                chunk->add(found);
+        }
+        return !chunk->names.empty();
     }
 
     /// The sorted lists as one, last row first.
@@ -271,10 +258,8 @@ private:
     DIR *const m_dir;
     const RowMaker &m_maker;
     const QAtomicInt *const m_cancel;
-    std::vector<Rows> m_rows; // one list for each thread that makes rows
-    std::mutex m_mutex;       // guards what follows
-    std::condition_variable m_changed;
-    std::deque<NameChunk> m_chunks;
+    std::vector<Rows> m_rows; // one list for each thread
+    std::mutex m_readMutex;   // guards the directory stream and the flag
     bool m_allRead = false;
 };
 } // namespace

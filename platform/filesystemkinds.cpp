@@ -19,6 +19,7 @@ namespace VeskFM
 
 namespace
 {
+constexpr int answerMs = 60000;
 
 /// The type of the mount with the device @p device, from the table of the kernel; empty if it is not there.
 QByteArray mountType(dev_t device)
@@ -78,13 +79,13 @@ bool FileSystemKinds::isNetwork(const QString &path) const
         return false;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        const auto known = m_network.constFind(facts.st_dev);
-        if (known != m_network.constEnd())
-            return *known;
+        const auto known = m_answers.constFind(facts.st_dev);
+        if (known != m_answers.constEnd() && !known->validUntil.hasExpired())
+            return known->network;
     }
     const bool network = findOutNetwork(bytes, facts.st_dev); // without the lock: a dead server blocks only who asks
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_network.insert(facts.st_dev, network);
+    m_answers.insert(facts.st_dev, Answer{network, QDeadlineTimer(answerMs)});
     return network;
 }
 

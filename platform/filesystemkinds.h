@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QHash>
 
 #include <sys/types.h>
@@ -12,7 +13,7 @@
 namespace VeskFM
 {
 
-/// Knows which directories lie on the disks of other machines. Looks once at each mounted file system.
+/// Knows which directories lie on the disks of other machines. Looks at each mounted file system now and then.
 ///
 /// Thread: any; may block on a server that does not answer, so do not ask on the GUI thread for such places.
 class FileSystemKinds
@@ -24,8 +25,13 @@ public:
     bool isSame(const QString &path, const QString &other) const;
 
 private:
+    struct Answer
+    {
+        bool network = false;
+        QDeadlineTimer validUntil{}; // the number of a device may go to another one once it is unmounted
+    };
     mutable std::mutex m_mutex;
-    mutable QHash<dev_t, bool> m_network; // by device
+    mutable QHash<dev_t, Answer> m_answers;
 };
 
 } // namespace VeskFM

@@ -13,7 +13,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstring>
 #include <strings.h>
 #include <vector>
 
@@ -48,23 +47,44 @@ struct Credentials
     }
 };
 
+/// A short lower-case text as one number.
+constexpr quint64 packed(const char *text)
+{
+    quint64 value = 0;
+    for (; *text; ++text)
+        value = (value << 8) | uchar(*text);
+    return value;
+}
+
+/// Asked of every file that is listed, hence the numbers.
 bool isArchiveName(const char *name, int size)
 {
-    static const char *const suffixes[] = {"zip", "7z",  "rar",  "tar", "tgz",  "tbz", "tbz2",
-                                           "txz", "tlz", "tzst", "taz", "cpio", "xar"};
-    const char *const dot = static_cast<const char *>(memrchr(name, '.', size_t(size)));
-    if (!dot || dot == name)
+    constexpr int longestSuffix = 5;
+    int dot = size - 1;
+    while (dot > 0 && size - 1 - dot < longestSuffix && name[dot] != '.')
+        --dot;
+    if (dot <= 0 || name[dot] != '.')
         return false;
-    const char *const suffix = dot + 1;
-    const int suffixSize = size - int(suffix - name);
-    if (suffixSize < 1 || suffixSize > 5)
-        return false;
-    const auto matches = [=](const char *known) {
-        return strncasecmp(suffix, known, size_t(suffixSize)) == 0 && known[suffixSize] == '\0';
-    };
-    if (std::any_of(std::begin(suffixes), std::end(suffixes), matches))
+    quint64 suffix = 0;
+    for (int i = dot + 1; i < size; ++i)
+        suffix = (suffix << 8) | uchar(name[i] | 0x20); // letters in lower case; digits are the same with it
+    switch (suffix) {
+    case packed("zip"):
+    case packed("7z"):
+    case packed("rar"):
+    case packed("tar"):
+    case packed("tgz"):
+    case packed("taz"):
+    case packed("tbz"):
+    case packed("tbz2"):
+    case packed("txz"):
+    case packed("tlz"):
+    case packed("tzst"):
+    case packed("cpio"):
         return true;
-    return dot - name > 4 && strncasecmp(dot - 4, ".tar", 4) == 0; // whatever packed the tar archive
+    default: // a tar archive, whatever packed it
+        return suffix != 0 && dot > 4 && strncasecmp(name + dot - 4, ".tar", 4) == 0;
+    }
 }
 } // namespace
 
