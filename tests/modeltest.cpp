@@ -50,25 +50,21 @@ class SignalLog
 public:
     explicit SignalLog(Model *model)
     {
+        const auto note = [this](const char *what) { return [this, what] { log.append(what); }; };
         const auto rows = [this](const char *what) {
-            return [this, what](const QModelIndex &parent, int first, int last) {
-                log.append(QStringLiteral("%1%2 %3-%4")
-                               .arg(parent.isValid() ? QStringLiteral("below %1: ").arg(parent.row()) : QString(),
-                                    QLatin1String(what))
-                               .arg(first)
-                               .arg(last));
+            return [this, what](const QModelIndex &, int first, int last) {
+                log.append(QStringLiteral("%1 %2-%3").arg(what).arg(first).arg(last));
             };
         };
         QObject::connect(model, &Model::rowsInserted, model, rows("insert"));
         QObject::connect(model, &Model::rowsRemoved, model, rows("remove"));
-        QObject::connect(model, &Model::modelReset, model, [this] { log.append("reset"); });
-        QObject::connect(model, &Model::layoutChanged, model, [this] { log.append("layout"); });
-        QObject::connect(model, &Model::dirListed, model, [this] { log.append("listed"); });
-        QObject::connect(model, &Model::sortingChanged, model, [this] { log.append("sorted"); });
-        QObject::connect(model, &Model::dataChanged, model,
-                         [this](const QModelIndex &, const QModelIndex &, const QVector<int> &roles) {
-                             log.append(roles == QVector<int>{Model::ListingRole} ? "loading" : "changed");
-                         });
+        QObject::connect(model, &Model::modelReset, model, note("reset"));
+        QObject::connect(model, &Model::layoutChanged, model, note("layout"));
+        QObject::connect(model, &Model::dirListed, model, note("listed"));
+        QObject::connect(model, &Model::sortingChanged, model, note("sorted"));
+        QObject::connect(model, &Model::dataChanged, model, [this](const auto &, const auto &, const auto &roles) {
+            log.append(roles == QVector<int>{Model::ListingRole} ? "loading" : "changed");
+        });
     }
     QStringList take() { return std::exchange(log, {}); }
 
@@ -374,14 +370,8 @@ void ModelTest::listsAgainOnlyWhenTheFilterChanged()
     model.rebuildWithEntryFilters({});
     model.setShowDotDot(false);
     model.rebuildWithMode(Model::InvalidMode);
-    model.rebuild(shown.vfs.add("/gone", Entry::Dir));
-    QCOMPARE(shown.vfs.watcher.asked.size(), 1); // "/gone" exists
-    shown.vfs.nodes.remove("/gone");
-    model.rebuild(shown.dir);
-    shown.vfs.watcher.asked.clear();
     model.rebuild(Entry(new FakeEntryData("/gone", {})));
-    QCOMPARE(model.actualRootEntry(), shown.dir);
-    QCOMPARE(shown.vfs.watcher.asked.size(), 0);
+    QCOMPARE(shown.vfs.watcher.asked, QStringList());
 
     model.setShowHiddenEntries(true);
     model.setNameFilters({"*.x"});
@@ -399,28 +389,22 @@ void ModelTest::answersQueriesWithoutRoot()
 {
     Model model(Model::ListMode, ModelFilter::AllEntries, nullptr);
     model.rebuild(Entry());
-    model.rebuild();
     model.refresh();
     model.updatePresentation();
     model.setShowDotDot(true);
-    QVERIFY(model.showDotDot());
     QVERIFY(model.actualRootEntry().isNull());
-    QVERIFY(!model.canFetchMore(QModelIndex()));
-    QVERIFY(!model.hasChildren());
+    QVERIFY(!model.canFetchMore(QModelIndex()) && !model.hasChildren());
     QVERIFY(!model.data(QModelIndex()).isValid());
-    QVERIFY(!model.index(0, 0).isValid());
-    QVERIFY(!model.indexOfEntry(Entry()).isValid());
+    QVERIFY(!model.index(0, 0).isValid() && !model.indexOfEntry(Entry()).isValid());
     QVERIFY(model.pathIndexList(Entry()).isEmpty());
     QCOMPARE(model.columnCount(), 1);
     model.rebuildWithMode(Model::TableMode);
     QCOMPARE(model.columnCount(), Props::ptr()->propertyEnumerator()->count());
-    QCOMPARE(model.internalPropertyNames().mid(0, 2), QStringList({"Name", "Type"}));
+    QCOMPARE(model.internalPropertyName(1), QStringLiteral("Type"));
+    QCOMPARE(model.internalPropertyName(-1) + model.internalPropertyName(99), QString());
     QCOMPARE(model.propertyIndex("Type"), 1);
     QCOMPARE(model.propertyIndex("Nothing"), -1);
-    QCOMPARE(model.internalPropertyName(-1), QString());
-    QCOMPARE(model.internalPropertyName(99), QString());
-    QCOMPARE(model.sortableProperties().value(1).second, 1);
-    QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), model.propertyNames().value(0));
+    QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), model.sortableProperties().value(0).first);
     QVERIFY(!model.headerData(0, Qt::Vertical).isValid());
 }
 
@@ -444,12 +428,6 @@ void ModelTest::givesRolesAndFlags()
     QVERIFY(!model.hasChildren(model.index(1, 0)));
     QVERIFY(model.canFetchMore(model.index(1, 0))); // a directory that nobody listed
     QVERIFY(!model.canFetchMore(model.index(2, 0)));
-    QCOMPARE(model.index(2, 0).data(Model::SortKeyRole), QVariant("f"));
-    const int size = model.propertyIndex("Size");
-    if (size == -1)
-        QVERIFY(!model.index(2, 0).data(Model::SizeValueRole).isValid());
-    else
-        QCOMPARE(model.index(2, 0).data(Model::SizeValueRole), QVariant(qlonglong(0)));
 }
 
 void ModelTest::collectsDragData()
