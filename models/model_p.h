@@ -67,7 +67,7 @@ private:
     void addListedChildren(ModelItem *item, const EntryList &children);
     bool announceRows(ModelItem *item, const std::vector<ModelItem *> &former);
     void refreshItems(const Entry &fresh);
-    template <typename Handler> void forEachTopmost(const Entry &entry, bool withRoot, Handler &&handler);
+    template <typename Handler> void forEachShowing(const Entry &entry, Handler &&handler);
 
     int m_removals = 0; // goes up whenever items are deleted, so that a loop notices when a slot did that
 };

@@ -22,16 +22,25 @@ bool isContainer(const Entry &entry)
 
 } // namespace
 
+/// Calls @p handler for each item that shows @p entry, unless it went away meanwhile: with one above it that was handled
+/// before, or by a slot.
+template <typename Handler> void ModelPrivate::forEachShowing(const Entry &entry, Handler &&handler)
+{
+    const QList<ModelItem *> items = finds(entry);
+    for (ModelItem *item : items) {
+        if (item == items.first() || finds(entry).contains(item))
+            handler(item);
+    }
+}
+
 void ModelPrivate::onDirListed(const Entry &entry, VFS::EntryChildFilters filters, const EntryList &children)
 {
     if (filters != childFilters()) // the watcher answers every model: another one asked for this listing
         return;
-    const QList<ModelItem *> items = finds(entry);
-    for (ModelItem *item : items) {
-        if (!finds(entry).contains(item) || item->isChildsInited()) // a slot may have removed it meanwhile
-            continue;
-        addListedChildren(item, children);
-    }
+    forEachShowing(entry, [&](ModelItem *item) {
+        if (!item->isChildsInited())
+            addListedChildren(item, children);
+    });
 }
 
 void ModelPrivate::addListedChildren(ModelItem *item, const EntryList &children)
@@ -115,11 +124,7 @@ void ModelPrivate::onEntryCreated(const Entry &entry)
     }
     if (!acceptEntry(entry))
         return;
-    const int removals = m_removals;
-    const QList<ModelItem *> parents = finds(VFS::ptr()->parent(entry));
-    for (ModelItem *parent : parents) {
-        if (removals != m_removals)
-            return;
+    forEachShowing(VFS::ptr()->parent(entry), [&](ModelItem *parent) {
         if (parent->isChildsInited()) {
             insertItem(parent, entry);
         } else if (isContainer(entry) && !parent->hasNodeChilds()) {
@@ -127,7 +132,7 @@ void ModelPrivate::onEntryCreated(const Entry &entry)
             const QModelIndex index = indexOfItem(parent);
             Q_EMIT q->dataChanged(index, index);
         }
-    }
+    });
 }
 
 void ModelPrivate::onEntryChanged(const Entry &entry)
@@ -149,28 +154,15 @@ void ModelPrivate::refreshItems(const Entry &fresh)
 
 void ModelPrivate::onEntryDeleted(const Entry &entry)
 {
-    forEachTopmost(entry, false, [this](ModelItem *item) { removeItem(item); });
+    forEachShowing(entry, [this](ModelItem *item) {
+        if (item->parent())
+            removeItem(item);
+    });
 }
 
 void ModelPrivate::onEntryReset(const Entry &entry)
 {
-    forEachTopmost(entry, true, [this](ModelItem *item) { resetItem(item); });
-}
-
-/// Hands over all items that show @p entry but those below another of them, which go with it.
-template <typename Handler> void ModelPrivate::forEachTopmost(const Entry &entry, bool withRoot, Handler &&handler)
-{
-    QList<ModelItem *> topmost;
-    const QList<ModelItem *> all = finds(entry); // each before what lies below it
-    for (ModelItem *item : all) {
-        const auto covers = [item](const ModelItem *other) { return item->isBelow(other); };
-        if ((withRoot || item != root.get()) && std::none_of(topmost.cbegin(), topmost.cend(), covers))
-            topmost.append(item);
-    }
-    for (ModelItem *item : qAsConst(topmost)) {
-        if (finds(entry).contains(item)) // else a slot has removed it
-            handler(item);
-    }
+    forEachShowing(entry, [this](ModelItem *item) { resetItem(item); });
 }
 
 } // namespace VeskFM
