@@ -84,9 +84,9 @@ void LocalEntryWatcher::stop()
     LocalEntryWatcher *self = this;
     runningWatcher.compare_exchange_strong(self, nullptr);
     m_cancel.storeRelaxed(1);
-    m_reader.stop();
     m_listings.clear();
     m_listings.waitForDone(stopTimeoutMs);
+    m_reader.stop(); // after those that watch through it
     m_registry.clear();
     m_poller.clear();
     m_running = false;

@@ -145,6 +145,7 @@ private Q_SLOTS:
     void joinsManyWritesIntoOneChange();
     void losesNothingWhileListing();
     void followsBothPathsOfOneDirectory();
+    void followsADirectoryWhoseNameIsNoText();
     void dropsARenamedDirectory();
     void noticesThatADirectoryAboveWasRenamed();
     void tellsOnceThatADirectoryVanished();
@@ -296,6 +297,19 @@ void LocalWatcherTest::followsBothPathsOfOneDirectory()
     QTRY_COMPARE(log.entries.size(), 2);
     QCOMPARE(QSet<QString>({log.entries.at(0).path(), log.entries.at(1).path()}),
              QSet<QString>({tree.path("link/b"), tree.path("real/b")}));
+}
+
+void LocalWatcherTest::followsADirectoryWhoseNameIsNoText()
+{
+    TestTree tree({"\xff/a", "?/a"});
+    const Entry top = tree.entry();
+    for (const Entry &directory : VFS::ptr()->childs(top, VFS::PlainListing, nullptr))
+        QCOMPARE(fileNames(list(directory)), QStringList({"a"}));
+    EventLog log(tree.path());
+    tree.write("\xff/a", "other content");
+    QTRY_COMPARE(log.lines, QStringList({"~a"}));
+    QVERIFY(log.entries.last().localPath().isEmpty());
+    QCOMPARE(log.entries.last().fileSize(), 13);
 }
 
 void LocalWatcherTest::dropsARenamedDirectory()
