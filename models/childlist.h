@@ -47,6 +47,10 @@ public:
         int count = m_size - from;
         while (count > 0) {
             const int half = count / 2;
+            if (count > prefetchLimit) { // what is looked at next lies anywhere in memory: fetch either meanwhile
+                __builtin_prefetch(at(from + half / 2));
+                __builtin_prefetch(at(from + half + 1 + (count - half - 1) / 2));
+            }
             if (predicate(at(from + half))) {
                 from += half + 1;
                 count -= half + 1;
@@ -58,6 +62,8 @@ public:
     }
 
 private:
+    static constexpr int prefetchLimit = 4; // rows; nearer ones are worth no extra look
+
     size_t blockOf(int row) const;
     void split(size_t position);
     void renumberFrom(size_t position);

@@ -104,6 +104,7 @@ ItemComparison::ItemComparison(const ModelItem *parent)
 
 ItemKey ItemComparison::key(const ModelItem *item) const
 {
+    __builtin_prefetch(item->dataHolder()); // arrives while the entry is asked
     ItemKey key;
     key.isDotDot = item->isDotDotDir();
     key.isPlace = item->entry().isPlace();
