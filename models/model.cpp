@@ -89,7 +89,7 @@ QVariant Model::data(const QModelIndex &index, int role) const
             item->delayedRefine();
         break;
     case SizeValueRole:
-        return item->data(SizeValueRole, d->sizePropertyIndex);
+        return d->sizePropertyIndex == -1 ? QVariant() : item->data(SizeValueRole, d->sizePropertyIndex);
     default:
         break;
     }
