@@ -6,8 +6,10 @@
 #include "entrydelegate.h"
 #include "listingstate.h"
 
+#include <veskfm/clipboard.h>
 #include <veskfm/model.h>
 
+#include <QDropEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -40,7 +42,7 @@ DirectoryView::DirectoryView(Model *model, QWidget *parent)
     setVerticalScrollMode(ScrollPerPixel);
     setTextElideMode(Qt::ElideMiddle);
     setEditTriggers(NoEditTriggers);
-    setDragDropMode(DragOnly);
+    setDragDropMode(DragDrop);
     setDefaultDropAction(Qt::CopyAction);
     setFrameShape(NoFrame);
     setModel(model);
@@ -159,6 +161,39 @@ void DirectoryView::selectionChanged(const QItemSelection &selected, const QItem
 {
     QTreeView::selectionChanged(selected, deselected);
     Q_EMIT selectedRowsChanged();
+}
+
+/// The directory that a drop here goes to; null where nothing can be dropped.
+Entry DirectoryView::dropTarget(const QDropEvent *event) const
+{
+    if (Clipboard::ptr()->actualMimeTypes(event->mimeData()).isEmpty())
+        return {};
+    const QModelIndex row = indexAt(event->pos()).siblingAtColumn(0);
+    if (row.isValid() && m_model->flags(row).testFlag(Qt::ItemIsDropEnabled))
+        return m_model->entryByIndex(row);
+    return event->source() == this ? Entry() : m_model->actualRootEntry(); // they are there already
+}
+
+void DirectoryView::dragEnterEvent(QDragEnterEvent *event)
+{
+    dragMoveEvent(event);
+}
+
+void DirectoryView::dragMoveEvent(QDragMoveEvent *event)
+{
+    const bool possible = !dropTarget(event).isNull();
+    event->setAccepted(possible || event->type() == QEvent::DragEnter); // the next row may take it
+}
+
+void DirectoryView::dropEvent(QDropEvent *event)
+{
+    const Entry target = dropTarget(event);
+    if (target.isNull())
+        return;
+    const Qt::DropAction action = event->dropAction();
+    event->setDropAction(Qt::CopyAction); // the service takes the originals of a move away, not the source of the drag
+    event->accept();
+    Q_EMIT entriesDropped(Clipboard::ptr()->dropEntries(event->mimeData()), target, action);
 }
 
 void DirectoryView::sortByHeader(int column, Qt::SortOrder order)

@@ -36,12 +36,17 @@ Q_SIGNALS:
     void entryActivated(const VeskFM::Entry &entry);
     void entryIconSizeChanged(VeskFM::IconSize size);
     void selectedRowsChanged(); ///< by the user or because rows came and went
+    /// @param target the directory under the pointer, else the one that is shown
+    void entriesDropped(const VeskFM::EntryList &entries, const VeskFM::Entry &target, Qt::DropAction action);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     void repaintOnLayoutChange();
@@ -50,6 +55,7 @@ private:
     void showSorting();
     void holdPicture();
     void releasePicture();
+    VeskFM::Entry dropTarget(const QDropEvent *event) const;
     void rememberSelection();
     void restoreSelection();
 

@@ -3,17 +3,22 @@
 
 #include "mainwindow.h"
 
+#include "fileactions.h"
 #include "options.h"
 #include "pathbar.h"
 #include "printabletext.h"
 #include "statusline.h"
 
+#include <veskfm/desktop.h>
 #include <veskfm/modelfilter.h>
 #include <veskplatform/entrywatcher.h>
+#include <veskplatform/standardpaths.h>
 #include <veskplatform/vfs.h>
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QLineEdit>
+#include <QProcess>
 #include <QShortcut>
 #include <QToolBar>
 
@@ -51,6 +56,9 @@ MainWindow::MainWindow(QWidget *parent)
     createToolBar();
     createShortcuts();
     setStatusBar(new StatusLine(&m_model, &m_view, this));
+    m_actions = new FileActions(&m_model, &m_view, this);
+    connect(m_actions, &FileActions::message, this,
+            [this](const QString &text, bool lasting) { statusBar()->showMessage(text, lasting ? 0 : messageTimeMs); });
     followDirectory();
     resize(1000, 650);
     m_view.setFocus();
@@ -134,8 +142,20 @@ void MainWindow::createShortcuts()
     };
     connect(new QShortcut(Qt::CTRL + Qt::Key_L, this), &QShortcut::activated, m_pathBar, focusAll(m_pathBar));
     connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_filter, focusAll(m_filter));
+    connect(new QShortcut(QKeySequence::New, this), &QShortcut::activated, this, &MainWindow::openAnotherWindow);
+    connect(new QShortcut(Qt::CTRL + Qt::Key_T, this), &QShortcut::activated, this,
+            [this] { openDirectory(VFS::ptr()->entry(StandardPaths::trashDirPath())); });
     connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this, [this] { m_model.rebuild(); });
     connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, &QWidget::close);
+}
+
+void MainWindow::openAnotherWindow()
+{
+    Desktop *const desktop = Desktop::ptr();
+    if (desktop->isAvailable())
+        desktop->callRegularWindow(m_model.actualRootEntry(), Desktop::NoOptions);
+    else
+        QProcess::startDetached(QCoreApplication::applicationFilePath(), {m_model.actualRootEntry().localPath()});
 }
 
 void MainWindow::followDirectory()
@@ -182,8 +202,7 @@ void MainWindow::activateEntry(const Entry &entry)
     if (canBeShown(entry))
         openDirectory(entry);
     else
-        statusBar()->showMessage(tr("%1: opening files is not possible yet").arg(printableText(entry.fileName())),
-                                 messageTimeMs);
+        m_actions->open(EntryList{entry}, false);
 }
 
 bool MainWindow::showDirectory(const Entry &directory)

@@ -11,6 +11,7 @@
 #include <QMainWindow>
 #include <QTimer>
 
+class FileActions;
 class PathBar;
 class QLineEdit;
 class QToolBar;
@@ -36,6 +37,7 @@ private:
     QAction *addNavigation(QToolBar *bar, const QString &iconName, const QString &text, const QList<QKeySequence> &keys,
                            void (MainWindow::*slot)());
     void createShortcuts();
+    void openAnotherWindow();
     void followDirectory();
     void goBack();
     void goForward();
@@ -48,6 +50,7 @@ private:
 
     VeskFM::Model m_model;
     DirectoryView m_view; // a member, so that it goes before its model
+    FileActions *m_actions = nullptr;
     PathBar *m_pathBar = nullptr;
     QLineEdit *m_filter = nullptr;
     QAction *m_back = nullptr;
