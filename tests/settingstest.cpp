@@ -53,7 +53,7 @@ private Q_SLOTS:
     void oneInstance();
 
 private:
-    static QString path() { return QSettings(QStringLiteral("tessaro"), QStringLiteral("vesk-fm")).fileName(); }
+    static QString path();
     static QByteArray content();
     static void write(const QByteArray &text); // in place, as another process may do
 
@@ -70,6 +70,13 @@ void SettingsTest::init()
 void SettingsTest::cleanup()
 {
     m_settings.reset();
+}
+
+QString SettingsTest::path()
+{
+    // Once: to make such an object writes what others have not written yet.
+    static const QString file = QSettings(QStringLiteral("tessaro"), QStringLiteral("vesk-fm")).fileName();
+    return file;
 }
 
 QByteArray SettingsTest::content()
@@ -278,6 +285,12 @@ void SettingsTest::leavesABrokenFileUntouchedUntilItIsRepaired()
              content().constData());
     QVERIFY(settings.showFileSizeInBytes());
     QCOMPARE(sizes.count(), 1);
+
+    write(broken); // nor is it a reason to write it that another object of this process has something to write
+    QSettings other(path(), QSettings::NativeFormat);
+    other.setValue(QStringLiteral("key"), 1);
+    settings.refresh();
+    QCOMPARE(content(), broken);
 }
 
 void SettingsTest::keepsChangesWhileTheFolderCannotBeWritten()
