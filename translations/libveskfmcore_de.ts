@@ -179,6 +179,29 @@
     </message>
 </context>
 <context>
+    <name>PathAnalyzer</name>
+    <message>
+        <source>Nothing is selected</source>
+        <translation>Nichts ist ausgewählt</translation>
+    </message>
+    <message>
+        <source>Nothing can be put there</source>
+        <translation>Dort kann nichts abgelegt werden</translation>
+    </message>
+    <message>
+        <source>Can&apos;t make operation over pair of dir and file entries</source>
+        <translation>Ordner und Datei können nicht durcheinander ersetzt werden</translation>
+    </message>
+    <message>
+        <source>Can&apos;t make operation over entries and file entry</source>
+        <translation>Auf eine Datei kann der Vorgang nicht angewendet werden</translation>
+    </message>
+    <message>
+        <source>The operation was cancelled</source>
+        <translation>Der Vorgang wurde abgebrochen</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>B</source>

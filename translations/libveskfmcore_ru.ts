@@ -181,6 +181,29 @@
     </message>
 </context>
 <context>
+    <name>PathAnalyzer</name>
+    <message>
+        <source>Nothing is selected</source>
+        <translation>Ничего не выбрано</translation>
+    </message>
+    <message>
+        <source>Nothing can be put there</source>
+        <translation>Туда ничего нельзя поместить</translation>
+    </message>
+    <message>
+        <source>Can&apos;t make operation over pair of dir and file entries</source>
+        <translation>Операция над парой из папки и файла невозможна</translation>
+    </message>
+    <message>
+        <source>Can&apos;t make operation over entries and file entry</source>
+        <translation>Операция невозможна: место назначения — файл</translation>
+    </message>
+    <message>
+        <source>The operation was cancelled</source>
+        <translation>Операция отменена</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>B</source>
