@@ -70,12 +70,16 @@ ChildResult runInChild(const QString &mode)
             child.readAllStandardError()};
 }
 
-/// A script that writes what it was started with, and then, as a sign that it is done, renames that to @p result.
-QByteArray reporter(const QString &result)
+/// Makes a program that writes what it was started with, and then, as a sign that it is done, renames that to @p result.
+void makeReporter(const QString &path, const QString &result)
 {
-    return "#!/bin/sh\n"
-           "echo \"$*|$(pwd)|${DISPLAY-unset}|${GIVEN-unset}\" > '"
-        + result.toLocal8Bit() + ".part'\nmv '" + result.toLocal8Bit() + ".part' '" + result.toLocal8Bit() + "'\n";
+    QFile script(path);
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write(QStringLiteral("#!/bin/sh\necho \"$*|$(pwd)|${DISPLAY-unset}|${GIVEN-unset}\" > '%1.part'\n"
+                                "mv '%1.part' '%1'\n")
+                     .arg(result)
+                     .toLocal8Bit());
+    script.setPermissions(script.permissions() | QFile::ExeOwner);
 }
 
 QByteArray contentOf(const QString &path)
@@ -91,67 +95,40 @@ class CoreTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void sizeTexts_data();
     void sizeTexts();
-    void hashesTexts();
     void startsCommandLines();
     void startsProgramsWithVariables();
     void startsOnTheRootDisplay();
-    void restoresTheEnvironmentAfterAFailedStart();
-    void listsTheEffectiveGroup();
     void placesWidgets();
     void printsMessagesWithTheirLevel();
-    void runsHaltHandlersAndThenTheDefaultAction_data();
     void runsHaltHandlersAndThenTheDefaultAction();
 };
 
-void CoreTest::sizeTexts_data()
-{
-    QTest::addColumn<qlonglong>("size");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("nothing") << 0LL << "0 B";
-    QTest::newRow("negative") << -5LL << "-5 B";
-    QTest::newRow("negative and large") << -(1LL << 40) << "-1099511627776 B";
-    QTest::newRow("last byte") << 1023LL << "1023 B";
-    QTest::newRow("first kilobyte") << 1024LL << "1.00 KB";
-    QTest::newRow("fraction") << 1536LL << "1.50 KB";
-    QTest::newRow("unit before rounding") << 1048575LL << "1024.00 KB";
-    QTest::newRow("gigabyte") << (1LL << 30) << "1.00 GB";
-    QTest::newRow("no unit above tera") << (1LL << 51) << "2048.00 TB";
-    QTest::newRow("largest") << std::numeric_limits<qlonglong>::max() << "8388608.00 TB";
-}
-
 void CoreTest::sizeTexts()
 {
-    QFETCH(const qlonglong, size);
-    QTEST(Core::dataSizeAsString(size), "text");
-}
-
-void CoreTest::hashesTexts()
-{
-    QCOMPARE(Core::md5HashForString({}), QStringLiteral("d41d8cd98f00b204e9800998ecf8427e"));
-    QCOMPARE(Core::md5HashForString(QStringLiteral("abc")), QStringLiteral("900150983cd24fb0d6963f7d28e17f72"));
+    QCOMPARE(Core::dataSizeAsString(-(1LL << 40)), "-1099511627776 B");
+    QCOMPARE(Core::dataSizeAsString(1023), "1023 B");
+    QCOMPARE(Core::dataSizeAsString(1024), "1.00 KB");
+    QCOMPARE(Core::dataSizeAsString(1048575), "1024.00 KB"); // the unit before rounding
+    QCOMPARE(Core::dataSizeAsString(3LL << 29), "1.50 GB");
+    QCOMPARE(Core::dataSizeAsString(std::numeric_limits<qlonglong>::max()), "8388608.00 TB");
 }
 
 void CoreTest::startsCommandLines()
 {
     TestTree tree;
     const QString result = tree.path(QStringLiteral("result"));
-    tree.write("run it", reporter(result));
-    const QString script = tree.path(QStringLiteral("run it"));
-    QFile::setPermissions(script, QFile::permissions(script) | QFile::ExeOwner);
-    QVERIFY(Core::startProcess(QStringLiteral("\"%1\"  one \"two three\"").arg(script)));
+    makeReporter(tree.path("run it"), result);
+    QVERIFY(Core::startProcess(QStringLiteral("\"%1\"  one \"two three\"").arg(tree.path("run it"))));
     QTRY_VERIFY(contentOf(result).startsWith("one two three|"));
-    QVERIFY(!Core::startProcess(QString()));
-    QVERIFY(!Core::startProcess(QStringLiteral("   ")));
-    QVERIFY(!Core::startProcess(tree.path(QStringLiteral("missing"))));
+    QVERIFY(!Core::startProcess("   ") && !Core::startProcess(tree.path("missing")));
 }
 
 void CoreTest::startsProgramsWithVariables()
 {
     TestTree tree({"work/"});
     const QString result = tree.path(QStringLiteral("result"));
-    tree.write("script", reporter(result));
+    makeReporter(tree.path("script"), result);
     qunsetenv("GIVEN");
     qputenv("DISPLAY", "");
     QProcessEnvironment variables;
@@ -172,11 +149,7 @@ void CoreTest::startsOnTheRootDisplay()
         QSKIP("the root-display tool is not in the build tree");
     TestTree tree;
     const QString result = tree.path(QStringLiteral("result"));
-    QFile script(tool);
-    QVERIFY(script.open(QIODevice::WriteOnly));
-    script.write(reporter(result));
-    script.close();
-    script.setPermissions(script.permissions() | QFile::ExeOwner);
+    makeReporter(tool, result);
     qputenv("ROOT_DISPLAY", ":5");
     qputenv("DISPLAY", ":0");
 
@@ -191,29 +164,15 @@ void CoreTest::startsOnTheRootDisplay()
     QVERIFY(Core::startProcess(QStringLiteral("xterm"), {QStringLiteral("-e")}, tree.path(), variables));
     QCOMPARE(qgetenv("DISPLAY"), QByteArray(":0"));
     QTRY_COMPARE(contentOf(result), "xterm -e|" + tree.bytes() + "|:5|unset");
+    qunsetenv("DISPLAY");
     QFile::remove(tool);
-    qunsetenv("DISPLAY");
-    qunsetenv("ROOT_DISPLAY");
-}
-
-void CoreTest::restoresTheEnvironmentAfterAFailedStart()
-{
-    qputenv("ROOT_DISPLAY", ":5");
-    qunsetenv("DISPLAY");
-    QVERIFY(!Core::startProcess(QStringLiteral("xterm"))); // the tool is not there
+    QVERIFY(!Core::startProcess("xterm")); // nor does a failure leave a trace in the environment
     QVERIFY(!qEnvironmentVariableIsSet("DISPLAY"));
     qunsetenv("ROOT_DISPLAY");
 }
 
-void CoreTest::listsTheEffectiveGroup()
-{
-    QCOMPARE(Core::currentProcessGroups().value(getegid()), Entry::groupName(getegid()));
-}
-
 void CoreTest::placesWidgets()
 {
-    Core::moveForCenter(nullptr);
-    Core::moveForPresentation(nullptr);
     const QSize area = QGuiApplication::primaryScreen()->availableGeometry().size();
     QWidget widget;
     widget.setGeometry(30, 40, 201, 100);
@@ -231,21 +190,13 @@ void CoreTest::printsMessagesWithTheirLevel()
     QCOMPARE(child.signal, SIGABRT);
 }
 
-void CoreTest::runsHaltHandlersAndThenTheDefaultAction_data()
-{
-    QTest::addColumn<int>("signal");
-    QTest::addColumn<QByteArray>("output");
-    QTest::newRow("interrupted") << SIGINT << QByteArray("terminated second late ");
-    QTest::newRow("terminated") << SIGTERM << QByteArray("terminated second late ");
-    QTest::newRow("crashed") << SIGSEGV << QByteArray("crashed second late ");
-}
-
 void CoreTest::runsHaltHandlersAndThenTheDefaultAction()
 {
-    QFETCH(const int, signal);
-    const ChildResult child = runInChild(QString::number(signal));
-    QTEST(child.output, "output");
-    QCOMPARE(child.signal, signal);
+    for (const int signal : {SIGINT, SIGTERM, SIGSEGV}) {
+        const ChildResult child = runInChild(QString::number(signal));
+        QCOMPARE(child.output, QByteArray(signal == SIGSEGV ? "crashed" : "terminated") + " second late ");
+        QCOMPARE(child.signal, signal);
+    }
 }
 
 int main(int argc, char **argv)

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "fakevfs.h"
 #include "testtree.h"
 
 #include <veskfm/entrypropertyset.h>
@@ -30,7 +29,6 @@ namespace
 
 constexpr int sortKeyRole = 256;
 constexpr int badEntryRole = 257;
-constexpr int bytesRole = 259;
 enum Column { Size, Modified, Owner, Permissions };
 
 unsigned int modeOf(const TestTree &tree, const char *name)
@@ -48,13 +46,11 @@ class FileInfoTest : public QObject
 private Q_SLOTS:
     void initTestCase();
     void knowsTheSizeAtOnceAndTheRestRefined();
-    void showsTheSizeAsTheParametersSay();
     void tellsBadEntries();
     void survivesRefinementOnThePool();
     void addsUpASelection();
     void showsAndChangesPermissions();
-    void leavesMixedRightsAlone();
-    void touchesNoTargetOfALink();
+    void leavesMixedRightsAndTargetsOfLinksAlone();
     void reportsErrors();
 
 private:
@@ -73,13 +69,6 @@ void FileInfoTest::initTestCase()
     QVERIFY2(loader.instance(), qPrintable(loader.errorString()));
     m_plugin = qobject_cast<PropsPlugin *>(loader.instance());
     QVERIFY(m_plugin);
-    QCOMPARE(m_plugin->propertySetSize(), 4);
-    for (int i = 0; i < 4; ++i) {
-        QCOMPARE(m_plugin->propertyHeaderData(i, sortKeyRole),
-                 QStringList({"Size", "Modified", "Owner", "Permissions"}).at(i));
-        QVERIFY(m_plugin->isPropertySortable(i));
-    }
-    QVERIFY(!m_plugin->isPropertySortable(4) && !m_plugin->isPropertySortable(-1));
 }
 
 std::unique_ptr<PropsPluginWidget> FileInfoTest::newPage(const EntryList &entries)
@@ -97,32 +86,20 @@ void FileInfoTest::knowsTheSizeAtOnceAndTheRestRefined()
     const auto set = newSet();
     set->prepare(entry);
     QCOMPARE(set->value(entry, Size, sortKeyRole), QVariant(qlonglong(2048)));
-    QCOMPARE(set->value(entry, Size, bytesRole), QVariant(qlonglong(2048)));
-    for (int column : {Modified, Owner, Permissions})
-        QCOMPARE(set->value(entry, column, Qt::DisplayRole).toString(), QString());
-    QVERIFY(set->canRefineData(entry));
-    set->refineData(entry);
-    QCOMPARE(set->value(entry, Modified, sortKeyRole).toDateTime().toMSecsSinceEpoch(), 1000000000500);
-    QVERIFY(!set->value(entry, Modified, Qt::DisplayRole).toString().isEmpty());
-    QCOMPARE(set->value(entry, Owner, Qt::DisplayRole).toString(), QString(getpwuid(getuid())->pw_name));
-    QCOMPARE(set->value(entry, Permissions, Qt::DisplayRole), "-rwsr-x---");
-    set->prepare(tree.entry()); // a directory: nothing of the file may stay
-    QCOMPARE(set->value(tree.entry(), Size, Qt::DisplayRole).toString(), QString());
-    QCOMPARE(set->value(tree.entry(), Size, sortKeyRole), QVariant(qlonglong(0)));
-    QCOMPARE(set->value(tree.entry(), Permissions, sortKeyRole).toString(), QString());
-}
-
-void FileInfoTest::showsTheSizeAsTheParametersSay()
-{
-    TestTree tree;
-    const Entry entry = tree.add("a", QByteArray(2048, 'x'));
-    const auto set = newSet();
-    set->prepare(entry);
     QCOMPARE(set->value(entry, Size, Qt::DisplayRole), "2.00 KB");
     EntryViewParameters::ptr()->setShowFileSizeInBytes(true);
     set->updatePresentation(entry, false);
     QCOMPARE(set->value(entry, Size, Qt::DisplayRole), "2048 B");
     EntryViewParameters::ptr()->setShowFileSizeInBytes(false);
+    for (int column : {Modified, Owner, Permissions})
+        QCOMPARE(set->value(entry, column, Qt::DisplayRole).toString(), QString());
+    set->refineData(entry);
+    QCOMPARE(set->value(entry, Modified, sortKeyRole).toDateTime().toMSecsSinceEpoch(), 1000000000500);
+    QCOMPARE(set->value(entry, Owner, Qt::DisplayRole).toString(), QString(getpwuid(getuid())->pw_name));
+    QCOMPARE(set->value(entry, Permissions, Qt::DisplayRole), "-rwsr-x---");
+    set->prepare(tree.entry()); // a directory: nothing of the file may stay
+    QCOMPARE(set->value(tree.entry(), Size, Qt::DisplayRole).toString(), QString());
+    QCOMPARE(set->value(tree.entry(), Permissions, sortKeyRole).toString(), QString());
 }
 
 void FileInfoTest::tellsBadEntries()
@@ -139,10 +116,6 @@ void FileInfoTest::tellsBadEntries()
     tree.remove("a");
     set->refineData(entry);
     QCOMPARE(set->value(entry, Size, badEntryRole), true);
-    QVERIFY(!set->value(entry, Owner, badEntryRole).isValid());
-    const Entry missing(new FakeEntryData("/nowhere", {}));
-    set->prepare(missing);
-    QCOMPARE(set->value(missing, Size, badEntryRole), true);
 }
 
 void FileInfoTest::survivesRefinementOnThePool()
@@ -154,8 +127,7 @@ void FileInfoTest::survivesRefinementOnThePool()
     for (int round = 0; round < 200; ++round) {
         QFuture<void> worker = QtConcurrent::run([&] { set->refineData(entry); });
         while (!worker.isFinished()) {
-            for (int column : {Size, Modified, Owner, Permissions})
-                set->value(entry, column, sortKeyRole);
+            set->value(entry, Permissions, sortKeyRole);
             if (round % 4 == 0)
                 set->prepare(entry);
         }
@@ -176,63 +148,46 @@ void FileInfoTest::addsUpASelection()
     tree.add("big", QByteArray(1 << 20, 'x'));
     tree.link("d/l", "../big"); // 6 bytes, not a megabyte
     bool running = true;
-    QVERIFY(m_plugin->hasTextDigest());
-    QCOMPARE(m_plugin->textDigest({tree.entry("d")}, &running), "1.01 KB in 5 file(s)");
     QCOMPARE(m_plugin->textDigest({tree.entry("d"), tree.entry("d/e"), tree.entry("d/a")}, &running),
-             m_plugin->textDigest({tree.entry("d")}, &running));
-    QCOMPARE(m_plugin->textDigest({tree.entry("d/a"), tree.entry("d/e/b")}, &running), "1020 B in 2 file(s)");
+             "1.01 KB in 5 file(s)"); // each file once
     running = false;
     QCOMPARE(m_plugin->textDigest({tree.entry("d")}, &running), QString());
-    tree.remove("d"); // with the name that the toolkit could not remove
 }
 
 void FileInfoTest::showsAndChangesPermissions()
 {
     TestTree tree({"a"});
     QCOMPARE(chmod(tree.bytes("a").constData(), 02750), 0);
-    QVERIFY(m_plugin->hasPropsWidgetFor({tree.entry("a")}));
-    QVERIFY(!m_plugin->hasPropsWidgetFor({VFS::ptr()->networkEntry()}));
     const auto page = newPage({tree.entry("a")});
-    QSignalSpy changed(page.get(), &PropsPluginWidget::changed);
     const auto box = [&page](const char *name) { return page->findChild<QCheckBox *>(name); };
     QCOMPARE(page->findChild<QLabel *>("owner")->text(), QString(getpwuid(getuid())->pw_name));
     QVERIFY(box("group-execute")->isChecked() && !box("group-write")->isChecked() && !box("others-read")->isChecked());
     box("others-read")->click();
     box("user-execute")->click();
-    QCOMPARE(changed.count(), 2);
     QCOMPARE(modeOf(tree, "a"), 02750u); // nothing before apply()
     page->apply();
     QCOMPARE(modeOf(tree, "a"), 02654u); // the set-group-id bit stays
     QCOMPARE(page->findChild<QLabel *>("permissions")->text(), "-rw-r-sr--");
-    QVERIFY(page->findChild<QLabel *>("errors")->isHidden());
 }
 
-void FileInfoTest::leavesMixedRightsAlone()
+void FileInfoTest::leavesMixedRightsAndTargetsOfLinksAlone()
 {
-    TestTree tree({"a", "b"});
+    TestTree tree({"a", "b", "c", "target"});
     QCOMPARE(chmod(tree.bytes("a").constData(), 0640), 0);
     QCOMPARE(chmod(tree.bytes("b").constData(), 0604), 0);
-    const auto page = newPage({tree.entry("a"), tree.entry("b")});
+    QCOMPARE(chmod(tree.bytes("target").constData(), 0604), 0);
+    const Entry link = tree.link("link", "target");
+    QVERIFY(!newPage({link})->findChild<QCheckBox *>("user-read")->isEnabled());
+    const auto page = newPage({tree.entry("a"), tree.entry("b"), tree.entry("c"), link});
     QCOMPARE(page->findChild<QCheckBox *>("group-read")->checkState(), Qt::PartiallyChecked);
     page->findChild<QCheckBox *>("user-execute")->setChecked(true);
     page->findChild<QCheckBox *>("others-read")->setCheckState(Qt::Unchecked);
+    tree.remove("c");
+    tree.link("c", "target"); // put there between the look and the change
     page->apply();
     QCOMPARE(modeOf(tree, "a"), 0740u);
     QCOMPARE(modeOf(tree, "b"), 0700u);
-}
-
-void FileInfoTest::touchesNoTargetOfALink()
-{
-    TestTree tree({"target", "a"});
-    tree.link("link", "target");
-    const unsigned int before = modeOf(tree, "target");
-    QVERIFY(!newPage({tree.entry("link")})->findChild<QCheckBox *>("user-read")->isEnabled());
-    const auto page = newPage({tree.entry("a"), tree.entry("link")});
-    tree.remove("a");
-    tree.link("a", "target"); // put there between the look and the change
-    page->findChild<QCheckBox *>("others-write")->setChecked(true);
-    page->apply();
-    QCOMPARE(modeOf(tree, "target"), before);
+    QCOMPARE(modeOf(tree, "target"), 0604u);
 }
 
 void FileInfoTest::reportsErrors()
