@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testtree.h"
+
 #include <veskplatform/veskicon.h>
 #include <veskplatform/veskicontheme.h>
 
 #include <QDataStream>
-#include <QDir>
-#include <QFile>
 #include <QPainter>
 #include <QPixmap>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -21,44 +20,36 @@ class VeskIconTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void findsIcons_data();
     void findsIcons();
-    void seesANewTheme();
-    void paintsEmblems_data();
     void paintsEmblems();
-    void givesPixmapsWithEmblems_data();
     void givesPixmapsWithEmblems();
     void isAnIconLikeAnyOther();
-    void leavesIconsWithoutEmblemsAlone();
 
 private:
-    void addTheme(const QString &theme, const QMap<QString, QColor> &icons);
+    void addTheme(const QByteArray &theme, const QMap<QString, QColor> &icons);
     static QColor colourOf(const QIcon &icon);
     static void compareCorners(const QImage &image, Qt::Corner emblem);
 
     const QColor blue = Qt::blue, red = Qt::red, green = Qt::green, gray = Qt::gray;
-    QTemporaryDir dir;
+    TestTree tree;
 };
 
-void VeskIconTest::addTheme(const QString &theme, const QMap<QString, QColor> &icons)
+void VeskIconTest::addTheme(const QByteArray &theme, const QMap<QString, QColor> &icons)
 {
     QByteArray directories;
     QByteArray groups;
     for (const int size : {8, 16, 22, 32, 48, 64, 96, 128, 256}) {
-        const QString folder = QString::number(size);
-        QVERIFY(QDir(dir.path()).mkpath(theme + QLatin1Char('/') + folder));
-        directories += folder.toLatin1() + ',';
-        groups += "[" + folder.toLatin1() + "]\nType=Fixed\nSize=" + folder.toLatin1() + '\n';
+        const QByteArray folder = QByteArray::number(size);
+        tree.add(theme + '/' + folder + '/');
+        directories += folder + ',';
+        groups += "[" + folder + "]\nType=Fixed\nSize=" + folder + '\n';
         for (auto icon = icons.cbegin(); icon != icons.cend(); ++icon) {
             QImage image(size, size, QImage::Format_ARGB32);
             image.fill(*icon);
-            QVERIFY(
-                image.save(dir.filePath(theme + QLatin1Char('/') + folder + QLatin1Char('/') + icon.key() + ".png")));
+            QVERIFY(image.save(tree.path(theme + '/' + folder + '/' + icon.key() + ".png")));
         }
     }
-    QFile index(dir.filePath(theme + "/index.theme"));
-    QVERIFY(index.open(QIODevice::WriteOnly));
-    index.write("[Icon Theme]\nName=" + theme.toLatin1() + "\nDirectories=" + directories + '\n' + groups);
+    tree.add(theme + "/index.theme", "[Icon Theme]\nName=" + theme + "\nDirectories=" + directories + '\n' + groups);
 }
 
 QColor VeskIconTest::colourOf(const QIcon &icon)
@@ -71,46 +62,27 @@ void VeskIconTest::initTestCase()
 {
     addTheme("first", {{"base", blue}, {"emblem", red}, {"text-x-generic", gray}});
     addTheme("second", {{"base", green}});
-    QIcon::setThemeSearchPaths({dir.path()});
+    QIcon::setThemeSearchPaths({tree.path()});
     QIcon::setThemeName("first");
-    QImage image(32, 32, QImage::Format_ARGB32);
-    image.fill(green);
-    QVERIFY(image.save(dir.filePath("file.png")));
-    mkfifo(QFile::encodeName(dir.filePath("fifo.png")).constData(), 0600);
-    QFile hollow(dir.filePath("huge.pbm")); // says it is 10^10 pixels
-    QVERIFY(hollow.open(QIODevice::WriteOnly) && hollow.write("P4 100000 100000\n") > 0);
-}
-
-void VeskIconTest::findsIcons_data()
-{
-    QCOMPARE(VeskIconTheme::instance()->getMimeIconName("text/x-chdr"), QStringLiteral("text-x-chdr"));
-    QCOMPARE(VeskIconTheme::instance()->getMimeIconName("no/such-type"), QString());
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QColor>("colour"); // gray stands for the MIME type's generic icon, black for the fallback
-    QTest::newRow("in the theme") << "base" << blue;
-    QTest::newRow("with an extension") << "base.png" << blue;
-    QTest::newRow("missing") << "nothing" << QColor(Qt::black);
-    QTest::newRow("missing, asked again") << "nothing" << QColor(Qt::black);
-    QTest::newRow("empty") << "" << QColor(Qt::black);
-    QTest::newRow("MIME type without an icon of its own") << "text-x-chdr" << gray;
-    QTest::newRow("file") << dir.filePath("file.png") << green;
-    QTest::newRow("missing file") << dir.filePath("none.png") << QColor(Qt::black);
-    QTest::newRow("FIFO") << dir.filePath("fifo.png") << QColor(Qt::black);
-    QTest::newRow("huge image") << dir.filePath("huge.pbm") << QColor(Qt::black);
 }
 
 void VeskIconTest::findsIcons()
 {
-    QFETCH(QString, name);
-    QFETCH(QColor, colour);
-    QPixmap black(16, 16);
-    black.fill(Qt::black);
-    QCOMPARE(colourOf(VeskIcon::fromTheme(name, {}, QIcon(black))), colour);
-    QCOMPARE(VeskIcon::fromTheme(name).isNull(), colour == QColor(Qt::black));
-}
-
-void VeskIconTest::seesANewTheme()
-{
+    QCOMPARE(VeskIconTheme::instance()->getMimeIconName("text/x-chdr"), QStringLiteral("text-x-chdr"));
+    QCOMPARE(VeskIconTheme::instance()->getMimeIconName("no/such-type"), QString());
+    QPixmap square(32, 32);
+    square.fill(green);
+    QVERIFY(square.save(tree.path("file.png")));
+    mkfifo(tree.bytes("fifo.png").constData(), 0600);
+    tree.add("huge.pbm", "P4 100000 100000\n"); // says it is 10^10 pixels
+    for (const QString &name : {QString(), QString("nothing"), QString("nothing"), tree.path("none.png"),
+                                tree.path("fifo.png"), tree.path("huge.pbm")}) {
+        QCOMPARE(colourOf(VeskIcon::fromTheme(name, {}, QIcon(square))), green); // the fallback
+        QVERIFY(VeskIcon::fromTheme(name).isNull());
+    }
+    QCOMPARE(colourOf(VeskIcon::fromTheme("base.png")), blue);
+    QCOMPARE(colourOf(VeskIcon::fromTheme("text-x-chdr")), gray); // the generic one of the MIME type
+    QCOMPARE(colourOf(VeskIcon::fromTheme(tree.path("file.png"))), green);
     QCOMPARE(colourOf(VeskIcon::fromTheme("base")), blue);
     QIcon::setThemeName("second");
     QCOMPARE(colourOf(VeskIcon::fromTheme("base")), green);
@@ -135,62 +107,49 @@ void VeskIconTest::compareCorners(const QImage &image, Qt::Corner emblem)
     QCOMPARE(image.pixelColor((from + across * 0.6).toPoint()), QColor(Qt::blue));
 }
 
-void VeskIconTest::paintsEmblems_data()
+void VeskIconTest::paintsEmblems()
 {
-    QTest::addColumn<int>("size");
-    QTest::addColumn<qreal>("ratio");
-    QTest::addColumn<Qt::Corner>("corner");
-    for (const int size : {16, 22, 32, 48, 64, 128}) {
+    for (const int size : {16, 22, 48, 128}) {
         for (const qreal ratio : {1.0, 1.5, 2.0}) {
-            for (const Qt::Corner corner : {Qt::TopLeftCorner, Qt::BottomRightCorner, Qt::BottomLeftCorner})
-                QTest::addRow("%d pixels at %.1f, corner %d", size, ratio, corner) << size << ratio << corner;
+            QImage canvas((QSizeF(size, size) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+            canvas.setDevicePixelRatio(ratio);
+            canvas.fill(Qt::transparent);
+            QPainter painter(&canvas);
+            VeskIcon::fromTheme("base", {{Qt::BottomLeftCorner, "emblem"}}).paint(&painter, QRect(0, 0, size, size));
+            painter.end();
+            QRect painted; // a size that the theme lacks is painted smaller, in the middle
+            for (int i = 0; i < canvas.width() * canvas.height(); ++i) {
+                const QPoint at(i % canvas.width(), i / canvas.width());
+                painted |= qAlpha(canvas.pixel(at)) == 255 ? QRect(at, at) : QRect();
+            }
+            QVERIFY(painted.width() == painted.height() && painted.width() * 4 > canvas.width() * 2);
+            compareCorners(canvas.copy(painted), Qt::BottomLeftCorner);
         }
     }
 }
 
-void VeskIconTest::paintsEmblems()
-{
-    QFETCH(int, size);
-    QFETCH(qreal, ratio);
-    QFETCH(Qt::Corner, corner);
-    QImage canvas((QSizeF(size, size) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
-    canvas.setDevicePixelRatio(ratio);
-    canvas.fill(Qt::transparent);
-    QPainter painter(&canvas);
-    VeskIcon::fromTheme("base", {{corner, "emblem"}}).paint(&painter, QRect(0, 0, size, size));
-    painter.end();
-    QRect painted; // a size that the theme lacks is painted smaller, in the middle
-    for (int y = 0; y < canvas.height(); ++y) {
-        for (int x = 0; x < canvas.width(); ++x)
-            painted |= qAlpha(canvas.pixel(x, y)) == 255 ? QRect(x, y, 1, 1) : QRect();
-    }
-    QVERIFY(painted.width() == painted.height() && painted.width() * 4 > canvas.width() * 2);
-    compareCorners(canvas.copy(painted), corner);
-}
-
-void VeskIconTest::givesPixmapsWithEmblems_data()
-{
-    QTest::addColumn<QSize>("baseSize");
-    QTest::addColumn<QSize>("asked");
-    QTest::addColumn<QSize>("given");
-    QTest::newRow("same size") << QSize(64, 64) << QSize(64, 64) << QSize(64, 64);
-    QTest::newRow("not enlarged") << QSize(32, 32) << QSize(64, 64) << QSize(32, 32);
-    QTest::newRow("keeps its shape") << QSize(128, 64) << QSize(64, 64) << QSize(64, 32);
-}
-
 void VeskIconTest::givesPixmapsWithEmblems()
 {
-    QFETCH(QSize, baseSize);
-    QFETCH(QSize, asked);
-    QFETCH(QSize, given);
-    QPixmap base(baseSize);
-    base.fill(blue);
-    const QIcon icon = VeskIcon::withEmblems(base, {{Qt::TopRightCorner, "emblem"}, {Qt::BottomLeftCorner, "nothing"}});
-    const QPixmap pixmap = icon.pixmap(asked);
-    QCOMPARE(pixmap.size(), given);
-    QCOMPARE(icon.actualSize(asked), given);
-    QCOMPARE(icon.availableSizes(), QIcon(base).availableSizes());
-    compareCorners(pixmap.toImage(), Qt::TopRightCorner);
+    const struct
+    {
+        QSize base, given;
+    } rows[] = {
+        {{64, 64}, {64, 64}},
+        {{32, 32}, {32, 32}},  // not enlarged
+        {{128, 64}, {64, 32}}, // keeps its shape
+    };
+    for (const auto &row : rows) {
+        QPixmap base(row.base);
+        base.fill(blue);
+        const QIcon icon =
+            VeskIcon::withEmblems(base, {{Qt::TopRightCorner, "emblem"}, {Qt::BottomLeftCorner, "nothing"}});
+        QCOMPARE(icon.pixmap(64, 64).size(), row.given);
+        QCOMPARE(icon.actualSize(QSize(64, 64)), row.given);
+        compareCorners(icon.pixmap(64, 64).toImage(), Qt::TopRightCorner);
+    }
+    const QIcon plain = VeskIcon::fromTheme("base");
+    QCOMPARE(VeskIcon::withEmblems(plain, {{Qt::TopLeftCorner, "nothing"}}).cacheKey(), plain.cacheKey());
+    QVERIFY(VeskIcon::withEmblems(QIcon(), {{Qt::TopLeftCorner, "emblem"}}).isNull());
 }
 
 void VeskIconTest::isAnIconLikeAnyOther()
@@ -209,18 +168,8 @@ void VeskIconTest::isAnIconLikeAnyOther()
     compareCorners(restored.pixmap(64).toImage(), Qt::TopLeftCorner);
 
     QIcon changed = icon; // the copy gets an engine of its own
-    QPixmap other(512, 512);
-    other.fill(green);
-    changed.addPixmap(other);
+    changed.addPixmap(QPixmap(512, 512));
     compareCorners(icon.pixmap(64).toImage(), Qt::TopLeftCorner);
-}
-
-void VeskIconTest::leavesIconsWithoutEmblemsAlone()
-{
-    const QIcon icon = VeskIcon::fromTheme("base");
-    QCOMPARE(VeskIcon::withEmblems(icon, {}).cacheKey(), icon.cacheKey());
-    QCOMPARE(VeskIcon::withEmblems(icon, {{Qt::TopLeftCorner, "nothing"}}).cacheKey(), icon.cacheKey());
-    QVERIFY(VeskIcon::withEmblems(QIcon(), {{Qt::TopLeftCorner, "emblem"}}).isNull());
 }
 
 QTEST_MAIN(VeskIconTest)

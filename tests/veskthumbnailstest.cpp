@@ -1,14 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testtree.h"
+
 #include <veskplatform/veskthumbnails.h>
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QDirIterator>
-#include <QFile>
+#include <QFileInfo>
 #include <QImage>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QtConcurrent>
 
@@ -22,41 +23,30 @@ class VeskThumbnailsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
-    void fitsIntoTheSize_data();
     void fitsIntoTheSize();
     void storesWhatOthersRead();
-    void usesOnlyWhatIsOfTheFileAsItIs_data();
     void usesOnlyWhatIsOfTheFileAsItIs();
     void remembersFailures();
-    void hasNoneOf_data();
     void hasNoneOf();
     void makesNoneOfThumbnails();
     void servesManyThreads();
 
 private:
-    QString saveImage(const QString &name, const QSize &size, const QColor &colour = Qt::blue);
-    QString write(const QString &name, const QByteArray &content);
+    QString saveImage(const QString &name, const QSize &size);
     QString cacheFile(const QString &folder, const QString &path) const;
     QStringList cachedFiles() const;
 
     const QString image = QStringLiteral("image/png");
     const QString cache = qEnvironmentVariable("XDG_CACHE_HOME") + QStringLiteral("/thumbnails");
-    QTemporaryDir dir;
+    TestTree tree;
 };
 
-QString VeskThumbnailsTest::saveImage(const QString &name, const QSize &size, const QColor &colour)
+QString VeskThumbnailsTest::saveImage(const QString &name, const QSize &size)
 {
     QImage content(size, QImage::Format_ARGB32);
-    content.fill(colour);
-    return content.save(dir.filePath(name), "png") ? dir.filePath(name) : QString();
-}
-
-QString VeskThumbnailsTest::write(const QString &name, const QByteArray &content)
-{
-    QFile file(dir.filePath(name));
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
+    content.fill(Qt::blue);
+    return content.save(tree.path(name), "png") ? tree.path(name) : QString();
 }
 
 QString VeskThumbnailsTest::cacheFile(const QString &folder, const QString &path) const
@@ -75,40 +65,33 @@ QStringList VeskThumbnailsTest::cachedFiles() const
     return files;
 }
 
-void VeskThumbnailsTest::initTestCase()
-{
-    QVERIFY(VeskThumbnails::isMimeTypeFromGroup("image/png", "image"));
-    QVERIFY(!VeskThumbnails::isMimeTypeFromGroup("image-like/png", "image"));
-    QVERIFY(!VeskThumbnails::isMimeTypeFromGroup("", ""));
-}
-
 void VeskThumbnailsTest::init()
 {
     QVERIFY(QDir(cache).removeRecursively());
 }
 
-void VeskThumbnailsTest::fitsIntoTheSize_data()
-{
-    QTest::addColumn<QSize>("original");
-    QTest::addColumn<int>("size");
-    QTest::addColumn<QSize>("thumbnail");
-    QTest::newRow("normal") << QSize(400, 200) << 0 << QSize(128, 64);
-    QTest::newRow("large") << QSize(400, 800) << 1 << QSize(128, 256);
-    QTest::newRow("not enlarged") << QSize(20, 30) << 1 << QSize(20, 30);
-    QTest::newRow("thin, yet not nothing") << QSize(2000, 1) << 0 << QSize(128, 1);
-}
-
 void VeskThumbnailsTest::fitsIntoTheSize()
 {
-    QFETCH(QSize, original);
-    QFETCH(int, size);
-    QFETCH(QSize, thumbnail);
-    const QString path = saveImage("fits.png", original);
-    const QImage made = VeskThumbnails::thumbnailImage(path, size, image);
-    QCOMPARE(made.size(), thumbnail);
-    QCOMPARE(made.pixelColor(0, 0), QColor(Qt::blue));
-    QCOMPARE(VeskThumbnails::thumbnailImage(path, size, image), made);
-    QCOMPARE(cachedFiles(), QStringList(cacheFile(size ? "large" : "normal", path)));
+    const struct
+    {
+        QSize original;
+        int size;
+        QSize thumbnail;
+    } rows[] = {
+        {{400, 200}, 0, {128, 64}},
+        {{400, 800}, 1, {128, 256}},
+        {{20, 30}, 1, {20, 30}},  // not enlarged
+        {{2000, 1}, 0, {128, 1}}, // thin, yet not nothing
+    };
+    for (const auto &row : rows) {
+        init();
+        const QString path = saveImage("fits.png", row.original);
+        const QImage made = VeskThumbnails::thumbnailImage(path, row.size, image);
+        QCOMPARE(made.size(), row.thumbnail);
+        QCOMPARE(made.pixelColor(0, 0), QColor(Qt::blue));
+        QCOMPARE(VeskThumbnails::thumbnailImage(path, row.size, image), made);
+        QCOMPARE(cachedFiles(), QStringList(cacheFile(row.size ? "large" : "normal", path)));
+    }
 }
 
 void VeskThumbnailsTest::storesWhatOthersRead()
@@ -118,41 +101,27 @@ void VeskThumbnailsTest::storesWhatOthersRead()
     const QString file = cacheFile("normal", path);
     const QImage stored(file);
     QCOMPARE(stored.size(), QSize(128, 128));
-    QCOMPARE(stored.text("Thumb::URI"), "file://" + dir.path() + "/a%20b%23%25%3B%C3%A4.png");
+    QCOMPARE(stored.text("Thumb::URI"), "file://" + tree.path() + "/a%20b%23%25%3B%C3%A4.png");
     QCOMPARE(stored.text("Thumb::MTime"), QString::number(QFileInfo(path).lastModified().toSecsSinceEpoch()));
     const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
     QCOMPARE(QFile::permissions(file), owner);
     QCOMPARE(QFile::permissions(cache + "/normal"), owner | QFile::ExeOwner | QFile::ExeUser);
 }
 
-void VeskThumbnailsTest::usesOnlyWhatIsOfTheFileAsItIs_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<bool>("used");
-    QTest::newRow("of this state") << "Software"
-                                   << "other" << true;
-    QTest::newRow("of another time") << "Thumb::MTime"
-                                     << "1" << false;
-    QTest::newRow("of another length") << "Thumb::Size"
-                                       << "1" << false;
-    QTest::newRow("of another file") << "Thumb::URI"
-                                     << "file:///other.png" << false;
-}
-
 void VeskThumbnailsTest::usesOnlyWhatIsOfTheFileAsItIs()
 {
-    QFETCH(QString, key);
-    QFETCH(QString, value);
-    QFETCH(bool, used);
     const QString path = saveImage("state.png", QSize(300, 300));
-    QImage foreign = VeskThumbnails::thumbnailImage(path, 0, image);
-    foreign.load(cacheFile("normal", path));
-    foreign.fill(Qt::red);
-    foreign.setText(key, value);
-    QVERIFY(foreign.save(cacheFile("normal", path)));
-    const QColor expected = used ? Qt::red : Qt::blue;
-    QCOMPARE(VeskThumbnails::thumbnailImage(path, 0, image).pixelColor(0, 0), expected);
+    const auto usesWhatSays = [&](const QString &key, const QString &value) {
+        init();
+        VeskThumbnails::thumbnailImage(path, 0, image);
+        QImage foreign(cacheFile("normal", path));
+        foreign.fill(Qt::red);
+        foreign.setText(key, value);
+        return foreign.save(cacheFile("normal", path))
+            && VeskThumbnails::thumbnailImage(path, 0, image).pixelColor(0, 0) == Qt::red;
+    };
+    QVERIFY(!usesWhatSays("Thumb::MTime", "1") && !usesWhatSays("Thumb::Size", "1"));
+    QVERIFY(!usesWhatSays("Thumb::URI", "file:///other.png") && usesWhatSays("Software", "other"));
     // A type that is not decoded here still shows what other programs have made of it.
     QVERIFY(!VeskThumbnails::thumbnailImage(path, 0, "video/mp4").isNull());
     QVERIFY(VeskThumbnails::thumbnailImage(path, 1, "video/mp4").isNull());
@@ -160,7 +129,7 @@ void VeskThumbnailsTest::usesOnlyWhatIsOfTheFileAsItIs()
 
 void VeskThumbnailsTest::remembersFailures()
 {
-    const QString path = write("broken.png", "\x89PNG\r\n\x1a\nbroken");
+    const QString path = tree.add("broken.png", "\x89PNG\r\n\x1a\nbroken").path();
     QVERIFY(VeskThumbnails::thumbnailImage(path, 0, image).isNull());
     QCOMPARE(cachedFiles().size(), 1);
     const QString failure = cachedFiles().first();
@@ -174,28 +143,19 @@ void VeskThumbnailsTest::remembersFailures()
     QVERIFY(!VeskThumbnails::thumbnailImage(path, 0, image).isNull());
 }
 
-void VeskThumbnailsTest::hasNoneOf_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("mimeType");
-    mkfifo(QFile::encodeName(dir.filePath("fifo.png")).constData(), 0600);
-    QTest::newRow("FIFO") << dir.filePath("fifo.png") << image;
-    QTest::newRow("device") << "/dev/zero" << image;
-    QTest::newRow("directory") << dir.path() << image;
-    QTest::newRow("missing") << dir.filePath("none.png") << image;
-    QTest::newRow("no path") << "" << image;
-    QTest::newRow("empty") << write("empty.png", "") << image;
-    QTest::newRow("10^10 pixels") << write("huge.pbm", "P4 100000 100000\n") << image;
-    QTest::newRow("another type") << saveImage("typed.png", QSize(10, 10)) << "application/pdf";
-    QTest::newRow("unknown type") << saveImage("typed.png", QSize(10, 10)) << "";
-}
-
 void VeskThumbnailsTest::hasNoneOf()
 {
-    QFETCH(QString, path);
-    QFETCH(QString, mimeType);
-    QVERIFY(VeskThumbnails::thumbnailImage(path, 0, mimeType).isNull());
-    QVERIFY(VeskThumbnails::thumbnailImage(path, 1, mimeType).isNull());
+    tree.add("empty.png", "");
+    tree.add("huge.pbm", "P4 100000 100000\n");
+    mkfifo(tree.bytes("fifo.png").constData(), 0600);
+    for (const QString &path : {tree.path("fifo.png"), QString("/dev/zero"), tree.path(), tree.path("none.png"),
+                                QString(), tree.path("empty.png"), tree.path("huge.pbm")}) {
+        QVERIFY2(VeskThumbnails::thumbnailImage(path, 0, image).isNull(), qPrintable(path));
+        QVERIFY(VeskThumbnails::thumbnailImage(path, 1, image).isNull());
+    }
+    const QString typed = saveImage("typed.png", QSize(10, 10));
+    QVERIFY(VeskThumbnails::thumbnailImage(typed, 0, "application/pdf").isNull());
+    QVERIFY(VeskThumbnails::thumbnailImage(typed, 0, "").isNull());
 }
 
 void VeskThumbnailsTest::makesNoneOfThumbnails()

@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testtree.h"
+
 #include <veskplatform/veskuidesktopentry.h>
 
 #include <QFile>
 #include <QLocale>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QtConcurrent>
 
@@ -17,25 +18,20 @@ class VeskUIDesktopEntryTest : public QObject
 
 private Q_SLOTS:
     void readsValues();
-    void prefersTheUsersLanguage_data();
     void prefersTheUsersLanguage();
     void knowsWhereItBelongs_data();
     void knowsWhereItBelongs();
-    void readsOnlyDesktopEntries_data();
     void readsOnlyDesktopEntries();
     void copiesAreIndependentOnThreads();
 
 private:
-    QString write(const QByteArray &content, const QString &name = QStringLiteral("x.desktop"));
+    QString write(const QByteArray &content, const QByteArray &name = "x.desktop")
+    {
+        return tree.add(name, content).path();
+    }
 
-    QTemporaryDir dir;
+    TestTree tree;
 };
-
-QString VeskUIDesktopEntryTest::write(const QByteArray &content, const QString &name)
-{
-    QFile file(dir.filePath(name));
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
-}
 
 void VeskUIDesktopEntryTest::readsValues()
 {
@@ -45,7 +41,6 @@ void VeskUIDesktopEntryTest::readsValues()
         "Terminal=true\nX-Vesk-OriginFile=/a/b.desktop\nnonsense\n\n[Desktop Action A]\nName=Other\n";
     VeskUIDesktopEntry entry(write(content));
     QVERIFY(entry.isValid() && entry.getTerminal());
-    QCOMPARE(entry.getFilePath(), dir.filePath(QStringLiteral("x.desktop")));
     const QStringList texts{entry.getType(),
                             entry.getBestAvailableName(),
                             entry.getBestAvailableGenericName(),
@@ -72,29 +67,18 @@ void VeskUIDesktopEntryTest::readsValues()
     QCOMPARE(entry.getBestAvailableName(), QString());
 }
 
-void VeskUIDesktopEntryTest::prefersTheUsersLanguage_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("country") << "de_AT"
-                             << "Österreich";
-    QTest::newRow("language alone") << "de_CH"
-                                    << "Deutsch";
-    QTest::newRow("none of them") << "it"
-                                  << "Plain";
-}
-
 void VeskUIDesktopEntryTest::prefersTheUsersLanguage()
 {
-    QFETCH(QString, language);
-    QFETCH(QString, name);
-    const QByteArray content =
-        "[Desktop Entry]\nName[de]=Deutsch\nName=Plain\nName[de_AT]=Österreich\nName[fr]=Français\n";
+    const QString path =
+        write("[Desktop Entry]\nName[de]=Deutsch\nName=Plain\nName[de_AT]=Österreich\nName[fr]=Français\n");
     const QLocale former;
-    QLocale::setDefault(QLocale(language));
-    const VeskUIDesktopEntry entry(write(content));
+    QStringList names;
+    for (const char *language : {"de_AT", "de_CH", "it"}) {
+        QLocale::setDefault(QLocale(language));
+        names += VeskUIDesktopEntry(path).getBestAvailableName();
+    }
     QLocale::setDefault(former);
-    QCOMPARE(entry.getBestAvailableName(), name);
+    QCOMPARE(names, QStringList({"Österreich", "Deutsch", "Plain"}));
 }
 
 void VeskUIDesktopEntryTest::knowsWhereItBelongs_data()
@@ -103,17 +87,19 @@ void VeskUIDesktopEntryTest::knowsWhereItBelongs_data()
     QTest::addColumn<QByteArray>("desktops");
     QTest::addColumn<bool>("displayable");
     QTest::addColumn<bool>("suitable");
-    QTest::newRow("anywhere") << QByteArray() << QByteArray("A:B") << true << true;
-    QTest::newRow("not in menus") << QByteArray("NoDisplay=true") << QByteArray() << false << true;
-    QTest::newRow("deleted") << QByteArray("Hidden=true") << QByteArray() << false << true;
-    QTest::newRow("only elsewhere") << QByteArray("OnlyShowIn=C;D") << QByteArray("A:B") << false << false;
-    QTest::newRow("only here") << QByteArray("OnlyShowIn=C;B;") << QByteArray("A:B") << true << true;
-    QTest::newRow("only somewhere, desktop unknown") << QByteArray("OnlyShowIn=C;") << QByteArray() << false << false;
-    QTest::newRow("not here") << QByteArray("NotShowIn=B;") << QByteArray("A:B") << false << false;
-    QTest::newRow("first named decides") << QByteArray("NotShowIn=B;\nOnlyShowIn=A;") << QByteArray("A:B") << true
-                                         << true;
-    QTest::newRow("program is there") << QByteArray("TryExec=sh") << QByteArray() << true << true;
-    QTest::newRow("program is missing") << QByteArray("TryExec=/no/such/program") << QByteArray() << true << false;
+    const auto row = [](const char *why, const char *lines, const char *desktops, bool displayable, bool suitable) {
+        QTest::newRow(why) << QByteArray(lines) << QByteArray(desktops) << displayable << suitable;
+    };
+    row("anywhere", "", "A:B", true, true);
+    row("not in menus", "NoDisplay=true", "", false, true);
+    row("deleted", "Hidden=true", "", false, true);
+    row("only elsewhere", "OnlyShowIn=C;D", "A:B", false, false);
+    row("only here", "OnlyShowIn=C;B;", "A:B", true, true);
+    row("only somewhere, desktop unknown", "OnlyShowIn=C;", "", false, false);
+    row("not here", "NotShowIn=B;", "A:B", false, false);
+    row("first named decides", "NotShowIn=B;\nOnlyShowIn=A;", "A:B", true, true);
+    row("program is there", "TryExec=sh", "", true, true);
+    row("program is missing", "TryExec=/no/such/program", "", true, false);
 }
 
 void VeskUIDesktopEntryTest::knowsWhereItBelongs()
@@ -128,41 +114,22 @@ void VeskUIDesktopEntryTest::knowsWhereItBelongs()
     QCOMPARE(entry.isSuitable(), suitable);
 }
 
-void VeskUIDesktopEntryTest::readsOnlyDesktopEntries_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("valid");
-    const QByteArray good = "[Desktop Entry]\nName=X\n";
-    const QString fifo = dir.filePath(QStringLiteral("fifo.desktop"));
-    mkfifo(QFile::encodeName(fifo).constData(), 0600);
-    const QString huge = write(good, QStringLiteral("huge.desktop"));
-    QFile::resize(huge, 100 << 20);
-    const QString link = dir.filePath(QStringLiteral("link.desktop"));
-    QFile::link(write(good, QStringLiteral("target")), link);
-    QTest::newRow("FIFO") << fifo << false;
-    QTest::newRow("100 MB") << huge << false;
-    QTest::newRow("device") << QStringLiteral("/dev/zero") << false;
-    QTest::newRow("directory") << dir.path() << false;
-    QTest::newRow("missing") << dir.filePath(QStringLiteral("none")) << false;
-    QTest::newRow("no path") << QString() << false;
-    QTest::newRow("empty") << write("", QStringLiteral("empty")) << false;
-    QTest::newRow("no main group") << write("[Desktop Action X]\nName=X\n", QStringLiteral("group")) << false;
-    QTest::newRow("a megabyte of nonsense")
-        << write(good + QByteArray("x\n").repeated(500000), QStringLiteral("junk")) << false;
-    QTest::newRow("nothing but escapes") << write(good + "X=" + QByteArray("\\q").repeated(500000),
-                                                  QStringLiteral("esc"))
-                                         << false;
-    QTest::newRow("link to a good one") << link << true;
-    QTest::newRow("CR LF") << write("[Desktop Entry]\r\nName=X\r\n", QStringLiteral("crlf")) << true;
-}
-
 void VeskUIDesktopEntryTest::readsOnlyDesktopEntries()
 {
-    QFETCH(QString, path);
-    QFETCH(bool, valid);
-    const VeskUIDesktopEntry entry(path);
-    QCOMPARE(entry.isValid(), valid);
-    QCOMPARE(entry.getBestAvailableName(), valid ? QStringLiteral("X") : QString());
+    const QByteArray good = "[Desktop Entry]\nName=X\n";
+    const QString huge = write(good, "huge.desktop");
+    QFile::resize(huge, 100 << 20);
+    mkfifo(tree.bytes("fifo.desktop").constData(), 0600);
+    for (const QString &path : {tree.path("fifo.desktop"), huge, QString("/dev/zero"), tree.path(), tree.path("none"),
+                                QString(), write("", "empty"), write("[Desktop Action X]\nName=X\n", "group"),
+                                write(good + QByteArray("x\n").repeated(500000), "junk"),
+                                write(good + "X=" + QByteArray("\\q").repeated(500000), "escapes")}) {
+        const VeskUIDesktopEntry entry(path);
+        QVERIFY2(!entry.isValid() && entry.getBestAvailableName().isEmpty(), qPrintable(path));
+    }
+    write(good, "target");
+    QCOMPARE(VeskUIDesktopEntry(tree.link("link.desktop", "target").path()).getBestAvailableName(), "X");
+    QCOMPARE(VeskUIDesktopEntry(write("[Desktop Entry]\r\nName=X\r\n")).getBestAvailableName(), "X");
 }
 
 void VeskUIDesktopEntryTest::copiesAreIndependentOnThreads()
