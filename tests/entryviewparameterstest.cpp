@@ -32,26 +32,19 @@ void EntryViewParametersTest::firstUseOnAWorkerBelongsToTheApplication()
 {
     std::thread([] { EntryViewParameters::ptr(); }).join();
     QCOMPARE(EntryViewParameters::ptr()->thread(), QCoreApplication::instance()->thread());
-    QVERIFY(EntryViewParameters::ptr()->isNumericSortingEnabled());
 }
 
 void EntryViewParametersTest::announcesChangesOnce()
 {
     EntryViewParameters views;
     QSignalSpy dirs(&views, &EntryViewParameters::useMetaInfoForDirsChanged);
-    QSignalSpy groups(&views, &EntryViewParameters::shownThumbnailGroupsChanged);
     QSignalSpy numeric(&views, SIGNAL(numericSortingEnabledChnaged()));
-    QSignalSpy locale(&views, SIGNAL(localeSortingEnabledChnaged()));
     for (int i = 0; i < 2; ++i) {
         views.setUseMetaInfoForDirIcons(false);
-        views.setShownThumbnailGroups({"image", "video"});
         views.setNumericSortingEnabled(false);
-        views.setLocaleSortingEnabled(true);
     }
     QCOMPARE(dirs.count(), 1);
-    QCOMPARE(groups.count(), 1);
     QCOMPARE(numeric.count(), 1);
-    QCOMPARE(locale.count(), 1);
     views.setUseMetaInfoForDirNames(!views.useMetaInfoForDirNames());
     QCOMPARE(dirs.count(), 2); // one signal for both
 }

@@ -4,6 +4,7 @@
 #include <veskfm/iconsize.h>
 
 #include <QDataStream>
+#include <QMap>
 #include <QTest>
 
 #include <limits>
@@ -15,54 +16,33 @@ class IconSizeTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void snaps_data();
     void snaps();
     void stepsThroughTheTable();
-    void keepsASizeOutsideTheTable();
     void streamsPixelsAndSnapsWhenRead();
 };
 
-void IconSizeTest::snaps_data()
-{
-    QTest::addColumn<int>("pixels");
-    QTest::addColumn<int>("size");
-    QTest::newRow("smallest number") << std::numeric_limits<int>::min() << 16;
-    QTest::newRow("zero") << 0 << 16;
-    QTest::newRow("tie takes the smaller, 16 and 22") << 19 << 16;
-    QTest::newRow("tie takes the smaller, 32 and 48") << 40 << 32;
-    QTest::newRow("tie takes the smaller, 64 and 128") << 96 << 64;
-    QTest::newRow("nearer to the larger") << 97 << 128;
-    QTest::newRow("largest number") << std::numeric_limits<int>::max() << 128;
-}
-
 void IconSizeTest::snaps()
 {
-    QFETCH(const int, pixels);
-    QTEST(IconSize(pixels).toInt(), "size");
+    const QMap<int, int> sizes{{std::numeric_limits<int>::min(), 16}, {19, 16}, {40, 32}, {96, 64}, {97, 128},
+                               {std::numeric_limits<int>::max(), 128}};
+    for (auto size = sizes.cbegin(); size != sizes.cend(); ++size)
+        QCOMPARE(IconSize(size.key()).toInt(), *size);
 }
 
 void IconSizeTest::stepsThroughTheTable()
 {
     IconSize size;
-    QCOMPARE(size.name(), QStringLiteral("Tiny"));
-    QVERIFY(!size.canBeDecreased());
-    QCOMPARE(size.decrease(), 0);
+    QVERIFY(!size.canBeDecreased() && size.decrease() == 0);
     QStringList names(size.name());
     while (size.canBeIncreased()) {
         QCOMPARE(size.increase(), IconSize::sizes[names.size()]);
         names.append(size.name());
     }
     QCOMPARE(names, QStringList({"Tiny", "Small", "Medium", "Large", "Very Large", "Huge"}));
-    QCOMPARE(size.increase(), 0);
-    QCOMPARE(size.decrease(), 64);
-    QCOMPARE(IconSize::nameForIndex(-1) + IconSize::nameForIndex(IconSize::nSizes), QString());
-}
-
-void IconSizeTest::keepsASizeOutsideTheTable()
-{
-    IconSize size(IconSize::Size(20));
-    QVERIFY(size.sizeIndex() == -1 && size.name().isEmpty());
-    QVERIFY(size.increase() == 0 && size.decrease() == 0 && size.toInt() == 20);
+    QVERIFY(size.increase() == 0 && size.decrease() == 64);
+    IconSize odd(IconSize::Size(20)); // not in the table
+    QVERIFY(odd.sizeIndex() == -1 && odd.name().isEmpty());
+    QVERIFY(odd.increase() == 0 && odd.decrease() == 0 && odd.toInt() == 20);
 }
 
 void IconSizeTest::streamsPixelsAndSnapsWhenRead()
