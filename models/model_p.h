@@ -39,6 +39,7 @@ public:
     ModelItem *insertItem(ModelItem *parent, const Entry &entry);
     /// The same without telling: the listing that is still to come does.
     ModelItem *insertItemSilently(ModelItem *parent, const Entry &entry);
+    void relistItem(ModelItem *item);     ///< drops its children and lists it again
     void removeItem(ModelItem *item);     ///< tells the views; deletes the item, which has a parent, with all below
     bool removeChildren(ModelItem *item); ///< likewise all below it; false when a slot has removed more than that
 
@@ -61,6 +62,9 @@ public:
     QStringList internalPropertyNames; // never change while there is an enumerator
     ItemIndex itemIndex;
 
+protected:
+    int m_removals = 0; // goes up whenever items are deleted, so that a loop notices when a slot did that
+
 private:
     void announceListingState(ModelItem *item);
     std::vector<ModelItem *> acceptedChildren(ModelItem *item, const EntryList &children);
@@ -68,8 +72,6 @@ private:
     bool announceRows(ModelItem *item, const std::vector<ModelItem *> &former);
     void refreshItems(const Entry &fresh);
     template <typename Handler> void forEachShowing(const Entry &entry, Handler &&handler);
-
-    int m_removals = 0; // goes up whenever items are deleted, so that a loop notices when a slot did that
 };
 
 } // namespace VeskFM

@@ -98,8 +98,12 @@ void ModelPrivate::resetItem(ModelItem *item)
     if (!item)
         return;
     const WaitCursor cursor;
-    if (!VFS::ptr()->isEntryExists(item->entry()))
-        return;
+    if (VFS::ptr()->isEntryExists(item->entry()))
+        relistItem(item);
+}
+
+void ModelPrivate::relistItem(ModelItem *item)
+{
     item->refresh();
     if (!removeChildren(item))
         return;
