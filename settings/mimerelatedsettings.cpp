@@ -3,15 +3,29 @@
 
 #include <veskfm/mimerelatedsettings.h>
 
+#include "settingsfile.h"
+
 namespace VeskFM
 {
 
 namespace
 {
 
-QString dialogSizeKey()
+QString fullKey(const char *key)
 {
-    return QStringLiteral("applicationDialogSize");
+    return QStringLiteral("mimeAppsService/") + QLatin1String(key);
+}
+
+QVariant read(const char *key, const QVariant &fallback)
+{
+    SettingsFile file;
+    file.reload();
+    return file.value(fullKey(key), fallback);
+}
+
+void write(const char *key, const QVariant &value)
+{
+    SettingsFile().write({{fullKey(key), value}});
 }
 
 } // namespace
@@ -25,22 +39,22 @@ MimeRelatedSettings::MimeRelatedSettings(QObject *parent)
 QString MimeRelatedSettings::preferredApplicationPath() const
 {
     // Not the key that the setter writes: what a user chose last does not override what an administrator set.
-    return value(QStringLiteral("preferredApplicationPath"), QStringLiteral("/usr/bin")).toString();
+    return read("preferredApplicationPath", QStringLiteral("/usr/bin")).toString();
 }
 
 void MimeRelatedSettings::setPreferredApplicationPath(const QString &path)
 {
-    setValue(QStringLiteral("applicationPreferredPath"), path);
+    write("applicationPreferredPath", path);
 }
 
 QSize MimeRelatedSettings::applicationDialogSize() const
 {
-    return value(dialogSizeKey(), QSize()).toSize();
+    return read("applicationDialogSize", QSize()).toSize();
 }
 
 void MimeRelatedSettings::setApplicationDialogSize(const QSize &size)
 {
-    setValue(dialogSizeKey(), size);
+    write("applicationDialogSize", size);
 }
 
 } // namespace VeskFM

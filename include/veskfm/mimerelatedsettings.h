@@ -13,9 +13,9 @@ namespace VeskFM
 {
 
 /// What the application-choice dialog remembers: a group of the common settings file. Every getter reads it, every setter
-/// writes it.
+/// writes it. A file that does not parse gives the defaults and stays as it is.
 ///
-/// Objects of one process on that file share their unsaved values. Thread: main.
+/// Thread: main.
 class VESKFM_EXPORT MimeRelatedSettings : public QSettings
 {
     Q_OBJECT
