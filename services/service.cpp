@@ -7,11 +7,17 @@
 #include <veskfm/settings.h>
 #include <veskplatform/veskdirs.h>
 
+#include <QApplication>
 #include <QDBusConnection>
+#include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusReply>
 #include <QDBusServiceWatcher>
-#include <QGuiApplication>
 #include <QMessageBox>
+#include <QScopedValueRollback>
+#include <QThread>
+
+#include <cstdio>
 
 namespace VeskFM
 {
@@ -34,6 +40,38 @@ void haltServices(Core::HaltReason reason)
 QString translated(const char *text)
 {
     return QCoreApplication::translate("Service", text);
+}
+
+void print(const QString &message)
+{
+    fprintf(stderr, "%s\n", qUtf8Printable(message));
+}
+
+/// GUI thread. What is logged while a box is open, perhaps by the box itself, is printed: one box at a time.
+void showMessage(QtMsgType type, const QString &message)
+{
+    static bool isShowing = false;
+    if (isShowing) {
+        print(message);
+        return;
+    }
+    const QScopedValueRollback<bool> showing(isShowing, true);
+    switch (type) {
+    case QtDebugMsg:
+        QMessageBox::information(nullptr, translated(QT_TRANSLATE_NOOP("Service", "Debug message")), message);
+        break;
+    case QtWarningMsg:
+        QMessageBox::warning(nullptr, translated(QT_TRANSLATE_NOOP("Service", "Warning")), message);
+        break;
+    case QtCriticalMsg:
+        QMessageBox::critical(nullptr, translated(QT_TRANSLATE_NOOP("Service", "Critical")), message);
+        break;
+    case QtFatalMsg:
+        QMessageBox::warning(nullptr, translated(QT_TRANSLATE_NOOP("Service", "Fatal")), message);
+        break;
+    case QtInfoMsg:
+        break;
+    }
 }
 
 } // namespace
@@ -65,13 +103,25 @@ Service::~Service()
 
 void Service::capture()
 {
-    if (calledFromDBus())
-        m_watcher->addWatchedService(message().service());
+    if (!calledFromDBus())
+        return;
+    const QString client = message().service();
+    m_watcher->addWatchedService(client);
+    // One that did not wait for the reply may have left before it was watched: it would keep the process for ever.
+    const QDBusReply<bool> isThere = QDBusConnection::sessionBus().interface()->isServiceRegistered(client);
+    if (isThere.isValid() && !isThere.value())
+        m_watcher->removeWatchedService(client);
+}
+
+/// Clients that went with the bus itself have not been seen to leave.
+bool Service::hasClients() const
+{
+    return QDBusConnection::sessionBus().isConnected() && !m_watcher->watchedServices().isEmpty();
 }
 
 void Service::unloaderTimeout()
 {
-    if (m_watcher->watchedServices().isEmpty() && m_lockCount < 1 && unloadIsAllowed()) {
+    if (!hasClients() && m_lockCount < 1 && unloadIsAllowed()) {
         QCoreApplication::quit();
         return;
     }
@@ -115,22 +165,14 @@ void Service::wrappedHaltHandler(Core::HaltReason reason)
 
 void Service::messageBoxHandler(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    switch (type) {
-    case QtDebugMsg:
-        QMessageBox::information(nullptr, translated(QT_TRANSLATE_NOOP("Service", "Debug message")), message);
-        break;
-    case QtWarningMsg:
-        QMessageBox::warning(nullptr, translated(QT_TRANSLATE_NOOP("Service", "Warning")), message);
-        break;
-    case QtCriticalMsg:
-        QMessageBox::critical(nullptr, translated(QT_TRANSLATE_NOOP("Service", "Critical")), message);
-        break;
-    case QtFatalMsg:
-        QMessageBox::warning(nullptr, translated(QT_TRANSLATE_NOOP("Service", "Fatal")), message);
-        break;
-    case QtInfoMsg:
-        break;
-    }
+    auto *const application = qobject_cast<QApplication *>(QCoreApplication::instance());
+    if (!application)
+        print(message);
+    else if (QThread::currentThread() == application->thread())
+        showMessage(type, message);
+    else
+        QMetaObject::invokeMethod(
+            application, [type, message] { showMessage(type, message); }, Qt::QueuedConnection);
 }
 
 } // namespace VeskFM

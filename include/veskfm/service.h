@@ -46,7 +46,7 @@ public:
     virtual bool unloadIsAllowed();                   ///< asked before the process quits for idleness; default: true
 
     /// For qInstallMessageHandler() in a host that has no terminal: shows messages in message boxes, informational ones
-    /// not at all.
+    /// not at all. Thread: any; those of other threads are shown a little later. Printed where no box can be shown.
     static void messageBoxHandler(QtMsgType type, const QMessageLogContext &context, const QString &message);
 
 public Q_SLOTS:
@@ -59,6 +59,8 @@ private Q_SLOTS:
     void slotCallingServiceUnregistered(const QString &service);
 
 private:
+    bool hasClients() const;
+
     QTimer m_unloader; // repeating, so that a refused unloading is tried again
     int m_lockCount = 0;
     QDBusServiceWatcher *m_watcher = nullptr; // the clients' unique names
