@@ -132,8 +132,7 @@ QString MimeApps::defaultMailSenderExec()
 
 void MimeApps::callDialog()
 {
-    const QSharedPointer<QDBusInterface> service = callableInterface(m_mimeApplications);
-    if (service && service->isValid())
+    if (const QSharedPointer<QDBusInterface> service = callableInterface(m_mimeApplications, QDBus::NoBlock))
         service->call(QDBus::NoBlock, QStringLiteral("callDialog"));
 }
 

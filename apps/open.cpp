@@ -18,6 +18,7 @@ namespace
 {
 
 constexpr int toolTimeoutMs = 30000;
+constexpr int toolGraceMs = 1000;
 
 QString toolName()
 {
@@ -98,8 +99,7 @@ bool Open::isAvailable() const
 void Open::open(const EntryList &entries, const QMap<QString, QVariant> &options)
 {
     if (!shouldOpenAsUser()) {
-        const QSharedPointer<QDBusInterface> service = callableInterface(m_open);
-        if (service && service->isValid())
+        if (const QSharedPointer<QDBusInterface> service = callableInterface(m_open, QDBus::NoBlock))
             service->call(QDBus::NoBlock, QStringLiteral("open"), QVariant::fromValue(entries), options);
         return;
     }
@@ -145,8 +145,11 @@ bool Open::canOpen(const Entry &entry)
     tool.start(QIODevice::ReadWrite);
     if (tool.waitForFinished(toolTimeoutMs)) // else the exit code says 0, too
         return tool.exitStatus() == QProcess::NormalExit && tool.exitCode() == 0;
-    tool.kill();
-    tool.waitForFinished();
+    tool.terminate(); // runuser hands this on to the tool; killed, it would leave the tool behind
+    if (!tool.waitForFinished(toolGraceMs)) {
+        tool.kill();
+        tool.waitForFinished(toolGraceMs);
+    }
     return false;
 }
 

@@ -26,6 +26,11 @@ QString interfaceName()
     return QLatin1String(VendorDomainPrefix) + QLatin1String(".FileManager.FileOperation");
 }
 
+QString finishedSignal()
+{
+    return QStringLiteral("operationFinished");
+}
+
 QString sourcesKey()
 {
     return QStringLiteral("sources");
@@ -59,12 +64,12 @@ FOps::FOps(QObject *parent)
     if (!m_ptr)
         m_ptr = this;
     qRegisterMetaType<FOpId>();
+    qRegisterMetaType<OperationType>(); // both for queued connections to our signal
     m_fileOperation = createInterface(QStringLiteral("/"), interfaceName());
     // Through the connection, not through the interface object: that would need the service's introspection data to
     // know our types. Results of anybody but the owner of the service's name do not come through.
-    QDBusConnection::sessionBus().connect(VeskFM::serviceName(), QStringLiteral("/"), interfaceName(),
-                                          QStringLiteral("operationFinished"), this,
-                                          SLOT(finished(QString, int, VeskFM::EntryList)));
+    QDBusConnection::sessionBus().connect(VeskFM::serviceName(), QStringLiteral("/"), interfaceName(), finishedSignal(),
+                                          this, SLOT(finished(QString, int, VeskFM::EntryList)));
 }
 
 FOps::~FOps()
@@ -73,12 +78,19 @@ FOps::~FOps()
         m_ptr = nullptr;
 }
 
+void FOps::release()
+{
+    QDBusConnection::sessionBus().disconnect(VeskFM::serviceName(), QStringLiteral("/"), interfaceName(),
+                                             finishedSignal(), this, SLOT(finished(QString, int, VeskFM::EntryList)));
+    ServiceInterfaceSingletone::release();
+}
+
 FOpId FOps::issue(const char *method, const QVariantList &arguments, OperationType type,
                   const QMap<QString, QVariant> &args)
 {
     const QString name = QLatin1String(method);
     FOpId id(name);
-    const QSharedPointer<QDBusInterface> service = callableInterface(m_fileOperation);
+    const QSharedPointer<QDBusInterface> service = callableInterface(m_fileOperation, QDBus::NoBlock);
     if (!service) // released at quit
         return id;
     if (type != Unknown)
@@ -165,9 +177,8 @@ FOpId FOps::makeFromTemplate(const Entry &entry, const QString &templatePath)
 int FOps::operationProgress(const FOpId &id) const
 {
     // The call is made for the service's sake; applications rely on the 0 and get progress elsewhere.
-    auto *const self = const_cast<FOps *>(this);
-    if (const QSharedPointer<QDBusInterface> service = self->callableInterface(m_fileOperation))
-        self->callAndWait(*service, QDBus::AutoDetect, QStringLiteral("operationProgress"), {id.stamp()});
+    if (const QSharedPointer<QDBusInterface> service = m_fileOperation.toStrongRef())
+        callAndWait(*service, QDBus::AutoDetect, QStringLiteral("operationProgress"), {id.stamp()});
     return 0;
 }
 

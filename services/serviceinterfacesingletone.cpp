@@ -25,18 +25,6 @@ void logCritical(const char *text, const QString &serviceName)
     qCritical("%s", qUtf8Printable(QCoreApplication::translate("ServiceInterfaceSingletone", text).arg(serviceName)));
 }
 
-bool isSilence(const QDBusError &error)
-{
-    switch (error.type()) {
-    case QDBusError::NoReply:
-    case QDBusError::Timeout:
-    case QDBusError::TimedOut:
-        return true;
-    default:
-        return false;
-    }
-}
-
 bool isOnBus()
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();
@@ -50,17 +38,18 @@ QStringList activatableNames()
     return reply.type() == QDBusMessage::ReplyMessage ? reply.arguments().value(0).toStringList() : QStringList();
 }
 
-/// An interface takes a blocking call to make. Where nobody would answer it is made on no bus at all, which costs nothing
-/// and gives an invalid one.
+/// An interface takes a blocking call to make. Where nobody answers it is made on no bus at all, which costs nothing and
+/// gives an invalid one.
 QDBusInterface *makeInterface(const QString &serviceName, const QString &path, const QString &interfaceName)
 {
     ServiceReachability &reachability = ServiceReachability::instance();
-    if (!reachability.isWorthWaitingFor(serviceName))
-        return new QDBusInterface(serviceName, path, interfaceName, QDBusConnection(QString()));
-    auto *const interface = new QDBusInterface(serviceName, path, interfaceName, QDBusConnection::sessionBus());
-    if (isSilence(interface->lastError()))
-        reachability.markSilent(serviceName, interface->lastError().message());
-    return interface;
+    if (reachability.isWorthWaitingFor(serviceName)) {
+        auto interface =
+            std::make_unique<QDBusInterface>(serviceName, path, interfaceName, QDBusConnection::sessionBus());
+        if (!reachability.isHung(serviceName, interface->lastError()))
+            return interface.release();
+    }
+    return new QDBusInterface(serviceName, path, interfaceName, QDBusConnection(QString()));
 }
 
 } // namespace
@@ -89,12 +78,14 @@ ServiceInterfaceSingletone::ServiceInterfaceSingletone(const QString &serviceNam
 
 ServiceInterfaceSingletone::~ServiceInterfaceSingletone() = default;
 
-/// Waits until the service owns its name. Returns whether it does.
-bool ServiceInterfaceSingletone::startService()
+/// Waits until the service owns its name, if it can be started. Returns whether calls are worth waiting for.
+bool ServiceInterfaceSingletone::startService() const
 {
     ServiceReachability &reachability = ServiceReachability::instance();
     if (!reachability.isWorthWaitingFor(m_serviceName))
         return false;
+    if (!m_isActivatable)
+        return true; // somebody may run it by hand
     const QDBusReply<void> reply = QDBusConnection::sessionBus().interface()->startService(m_serviceName);
     if (!reply.isValid())
         reachability.markSilent(m_serviceName, reply.error().message());
@@ -133,12 +124,17 @@ void ServiceInterfaceSingletone::release()
     m_createdInterfaces.clear();
 }
 
-QSharedPointer<QDBusInterface> ServiceInterfaceSingletone::callableInterface(QWeakPointer<QDBusInterface> &interface)
+QSharedPointer<QDBusInterface> ServiceInterfaceSingletone::callableInterface(QWeakPointer<QDBusInterface> &interface,
+                                                                             QDBus::CallMode mode)
 {
     const QSharedPointer<QDBusInterface> present = interface.toStrongRef();
-    if (!present || present->isValid() || !m_isActivatable || !isOnBus() || !startService())
+    if (!present || present->isValid() || !m_isActivatable)
         return present;
-    if (!m_serviceInterface || !m_serviceInterface->connection().isConnected())
+    if (mode == QDBus::NoBlock && present->connection().isConnected()) // the call itself has the bus start the service
+        return present;
+    if (!startService())
+        return present;
+    if (!m_serviceInterface->connection().isConnected())
         connectToService(); // it has never been told
     m_createdInterfaces.removeAll(present);
     const QSharedPointer<QDBusInterface> renewed = createInterface(present->path(), present->interface());
@@ -147,14 +143,14 @@ QSharedPointer<QDBusInterface> ServiceInterfaceSingletone::callableInterface(QWe
 }
 
 QDBusMessage ServiceInterfaceSingletone::callAndWait(QDBusInterface &interface, QDBus::CallMode mode,
-                                                     const QString &method, const QVariantList &arguments)
+                                                     const QString &method, const QVariantList &arguments) const
 {
-    ServiceReachability &reachability = ServiceReachability::instance();
-    if (!reachability.isWorthWaitingFor(m_serviceName))
+    // Started first, so that waiting for a start is not taken for waiting for an answer.
+    if (!startService())
         return QDBusMessage::createError(QDBusError::NoReply, QStringLiteral("the service does not answer"));
     const QDBusMessage reply = interface.callWithArgumentList(mode, method, arguments);
-    if (reply.type() == QDBusMessage::ErrorMessage && isSilence(QDBusError(reply)))
-        reachability.markSilent(m_serviceName, reply.errorMessage());
+    if (reply.type() == QDBusMessage::ErrorMessage)
+        ServiceReachability::instance().isHung(m_serviceName, QDBusError(reply));
     return reply;
 }
 

@@ -49,6 +49,7 @@ public:
     static FOps *ptr();
     explicit FOps(QObject *parent = nullptr);
     ~FOps() override;
+    void release() override; ///< also stops listening to the service
 
     FOpId remove(const EntryList &entries, bool flag);
     FOpId trash(const EntryList &entries, bool flag);
@@ -95,7 +96,7 @@ private:
 
     static FOps *m_ptr;
 
-    mutable QWeakPointer<QDBusInterface> m_fileOperation; // held by the base
+    QWeakPointer<QDBusInterface> m_fileOperation; // held by the base
     QMap<FOpId, Record> m_pending;
 };
 

@@ -42,7 +42,7 @@ public:
 private:
     static Open *m_ptr;
 
-    mutable QWeakPointer<QDBusInterface> m_open; // held by the base
+    QWeakPointer<QDBusInterface> m_open; // held by the base
 };
 
 } // namespace VeskFM

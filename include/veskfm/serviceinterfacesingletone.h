@@ -22,7 +22,8 @@ namespace VeskFM
 /// to its objects.
 ///
 /// A service that cannot be started, or does not answer, costs one bus time-out in the life of the process, whatever the
-/// number of clients and calls: from then on calls fail at once until somebody new owns the name.
+/// number of clients and calls: from then on calls fail at once until somebody new owns the name, or the silent one
+/// answers after all.
 ///
 /// Thread: main. Errors: a missing bus or service is logged at critical level, once for each client.
 class VESKFM_EXPORT ServiceInterfaceSingletone : public Singletone
@@ -40,17 +41,19 @@ public:
     void release() override; ///< gives up all interfaces
 
 protected:
-    /// The interface to call now. A service that has gone is started again; one that did not answer gets another chance
-    /// when its name has a new owner; in both cases @p interface is replaced. Null after release().
-    QSharedPointer<QDBusInterface> callableInterface(QWeakPointer<QDBusInterface> &interface);
+    /// The interface to call now, null after release(). A service that has gone is started again, and one that is no
+    /// longer silent gets another chance; @p interface is replaced then. With QDBus::NoBlock a service that has gone is
+    /// left to the call, which starts it without making this process wait.
+    QSharedPointer<QDBusInterface> callableInterface(QWeakPointer<QDBusInterface> &interface,
+                                                     QDBus::CallMode mode = QDBus::Block);
     /// Calls and waits. An error message where the call failed, at once where the service is known not to answer.
     QDBusMessage callAndWait(QDBusInterface &interface, QDBus::CallMode mode, const QString &method,
-                             const QVariantList &arguments);
+                             const QVariantList &arguments) const;
 
 private:
     Q_DISABLE_COPY(ServiceInterfaceSingletone)
 
-    bool startService();
+    bool startService() const;
     void connectToService();
 
     const QString m_serviceName;

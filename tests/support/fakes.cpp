@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "fakes.h"
+
+#include <veskfm/vendordomainprefix.h>
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusReply>
+#include <QDir>
+#include <QFile>
+#include <QMap>
+#include <QTest>
+
+#include <csignal>
+
+namespace
+{
+
+QStringList criticals;
+QtMessageHandler formerHandler = nullptr;
+
+void collect(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtCriticalMsg)
+        criticals.append(message);
+    else if (formerHandler)
+        formerHandler(type, context, message);
+}
+
+QString callsPath()
+{
+    return QDir::homePath() + QStringLiteral("/fake-calls");
+}
+
+QDBusConnectionInterface *bus()
+{
+    return QDBusConnection::sessionBus().interface();
+}
+
+} // namespace
+
+QString busName(const char *name)
+{
+    return QLatin1String(VeskFM::VendorDomainPrefix) + QLatin1String(name);
+}
+
+void setFakeBehaviour(const char *behaviour)
+{
+    using Variables = QMap<QString, QString>;
+    qDBusRegisterMetaType<Variables>();
+    bus()->call(QStringLiteral("UpdateActivationEnvironment"),
+                QVariant::fromValue(Variables{{QStringLiteral("VESKFM_FAKE"), QLatin1String(behaviour)}}));
+}
+
+QStringList fakeCalls()
+{
+    QFile file(callsPath());
+    return file.open(QIODevice::ReadOnly)
+        ? QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)
+        : QStringList();
+}
+
+void clearFakeCalls()
+{
+    QFile::remove(callsPath());
+}
+
+bool isOnBus(const QString &name)
+{
+    return bus()->isServiceRegistered(name);
+}
+
+bool signalService(const QString &name, int signal)
+{
+    const QDBusReply<uint> pid = bus()->servicePid(name);
+    if (!pid.isValid() || kill(pid_t(pid.value()), signal) != 0)
+        return false;
+    return signal != SIGKILL || QTest::qWaitFor([&name] { return !isOnBus(name); });
+}
+
+void announceQuit()
+{
+    QMetaObject::invokeMethod(QCoreApplication::instance(), "aboutToQuit");
+}
+
+CriticalMessages::CriticalMessages()
+{
+    criticals.clear();
+    formerHandler = qInstallMessageHandler(collect);
+}
+
+CriticalMessages::~CriticalMessages()
+{
+    qInstallMessageHandler(formerHandler);
+}
+
+QStringList CriticalMessages::take()
+{
+    const QStringList taken = criticals;
+    criticals.clear();
+    return taken;
+}
