@@ -22,9 +22,11 @@ struct SetRecord
     bool canRefine = false;
     QStringList emblems;
     std::function<void(const VeskFM::Entry &)> onRefine; // on the refining thread
+    std::function<QVariant(const VeskFM::Entry &)> onValue;
 };
 
-/// A property set that records its calls. Its values are texts made of index, role and number of preparations.
+/// A property set that records its calls. Unless told otherwise its values are texts made of index, role and number of
+/// preparations.
 class RecordingSet : public VeskFM::EntryPropertySet
 {
 public:
@@ -36,8 +38,10 @@ public:
     ~RecordingSet() override { --m_record->alive; }
 
     void prepare(const VeskFM::Entry &) override { ++m_record->prepared; }
-    QVariant value(const VeskFM::Entry &, int index, int role) const override
+    QVariant value(const VeskFM::Entry &entry, int index, int role) const override
     {
+        if (m_record->onValue)
+            return m_record->onValue(entry);
         return QStringLiteral("%1/%2/%3").arg(index).arg(role).arg(m_record->prepared);
     }
     bool canRefineData(const VeskFM::Entry &) const override { return m_record->canRefine; }

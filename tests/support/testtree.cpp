@@ -6,45 +6,16 @@
 #include <QFile>
 #include <QStringList>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <filesystem>
+#include <fstream>
 
 using namespace VeskFM;
-
-namespace
-{
-void check(bool done, const char *what, const QByteArray &path)
-{
-    if (!done)
-        qFatal("TestTree: cannot %s %s: %s", what, path.constData(), strerror(errno));
-}
-
-/// Made as the system takes it, byte by byte: names need not be text.
-void makeDirectories(const QByteArray &path)
-{
-    for (int slash = path.indexOf('/', 1); slash > 0; slash = path.indexOf('/', slash + 1)) {
-        const QByteArray part = path.left(slash);
-        check(mkdir(part.constData(), 0755) == 0 || errno == EEXIST, "make", part);
-    }
-}
-
-void writeFile(const QByteArray &path, const QByteArray &content)
-{
-    const int fd = open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-    check(fd >= 0 && ::write(fd, content.constData(), size_t(content.size())) == content.size(), "write", path);
-    close(fd);
-}
-} // namespace
+namespace fs = std::filesystem; // byte by byte, as the system takes names: they need not be text
 
 TestTree::TestTree(std::initializer_list<const char *> names)
 {
-    check(m_dir.isValid(), "make", "a temporary directory");
+    if (!m_dir.isValid())
+        qFatal("TestTree: cannot make a temporary directory");
     for (const char *name : names)
         add(name);
 }
@@ -52,7 +23,7 @@ TestTree::TestTree(std::initializer_list<const char *> names)
 TestTree::~TestTree()
 {
     std::error_code ignored; // QTemporaryDir would leave names that are no text
-    std::filesystem::remove_all(bytes().constData(), ignored);
+    fs::remove_all(bytes().constData(), ignored);
 }
 
 QString TestTree::path(const QString &name) const
@@ -73,34 +44,34 @@ Entry TestTree::entry(const QString &name) const
 
 Entry TestTree::add(const QByteArray &name, const QByteArray &content)
 {
-    const QByteArray target = bytes(name);
-    makeDirectories(target);
+    fs::create_directories(fs::path(bytes(name).constData()).parent_path());
     if (!name.endsWith('/'))
-        writeFile(target, content.isNull() ? name : content);
+        write(name, content.isNull() ? name : content);
     return entry(QString::fromUtf8(name));
 }
 
 Entry TestTree::link(const QByteArray &name, const QByteArray &target)
 {
-    makeDirectories(bytes(name));
-    check(symlink(target.constData(), bytes(name).constData()) == 0, "link", bytes(name));
+    fs::create_directories(fs::path(bytes(name).constData()).parent_path());
+    fs::create_symlink(target.constData(), bytes(name).constData());
     return entry(QString::fromUtf8(name));
 }
 
 void TestTree::write(const QByteArray &name, const QByteArray &content)
 {
-    writeFile(bytes(name), content);
+    std::ofstream file(bytes(name).constData(), std::ios::binary);
+    if (!file.write(content.constData(), content.size()).flush())
+        qFatal("TestTree: cannot write %s", bytes(name).constData());
 }
 
 void TestTree::rename(const QByteArray &from, const QByteArray &to)
 {
-    check(::rename(bytes(from).constData(), bytes(to).constData()) == 0, "rename", bytes(from));
+    fs::rename(bytes(from).constData(), bytes(to).constData());
 }
 
 void TestTree::remove(const QByteArray &name)
 {
-    std::error_code error;
-    check(std::filesystem::remove_all(bytes(name).constData(), error) > 0 && !error, "remove", bytes(name));
+    fs::remove_all(bytes(name).constData());
 }
 
 EntryWatcher *watcher()

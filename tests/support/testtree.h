@@ -15,7 +15,7 @@
 /// A temporary tree of files below the directory of the test's temporary files; gone with the object.
 ///
 /// Names are UTF-8 and relative to the top; one that ends with "/" makes a directory, missing ones above it are made.
-/// Files hold their own name unless content is given. What cannot be made ends the test program with a message.
+/// Files hold their own name unless content is given. What cannot be made ends the test program with a message or an exception's text.
 class TestTree
 {
 public:

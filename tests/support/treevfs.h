@@ -44,7 +44,7 @@ class TreeVfs : public FakeVfs
 {
 public:
     /// The entry of @p path, newly made; directories and links behave like those of a disk.
-    Entry add(const QString &path, int kind = Entry::File, std::initializer_list<EntryTrait> more = {})
+    Entry add(const QString &path, int kind = Entry::File, std::initializer_list<EntryTrait> more = {}, qint64 size = 0)
     {
         const bool isPlace = std::find(more.begin(), more.end(), EntryTrait::Place) != more.end();
         const bool isDir = kind == Entry::Dir || kind == Entry::DirLink;
@@ -56,6 +56,7 @@ public:
             traits.append(EntryTrait::Hidden);
         auto *const data = new FakeEntryData(path, traits);
         data->kind = kind;
+        data->size = size;
         const Entry made(data);
         nodes.insert(path, made);
         return made;
