@@ -27,6 +27,16 @@
 
 using namespace VeskFM;
 
+namespace
+{
+
+QString itemCount(int count)
+{
+    return count == 1 ? FileActions::tr("1 item") : FileActions::tr("%1 items").arg(count);
+}
+
+} // namespace
+
 FileActions::FileActions(Model *model, DirectoryView *view, QObject *parent)
     : QObject(parent)
     , m_model(model)
@@ -128,7 +138,8 @@ Entry FileActions::freeEntry(const QString &baseName, const QString &suffix) con
 void FileActions::open(const EntryList &entries, bool chooseApplication)
 {
     Open *const opener = Open::ptr();
-    if (!opener->isAvailable()) {
+    m_openerSeen = m_openerSeen || opener->isAvailable(); // one that has died since is started again
+    if (!m_openerSeen) {
         Q_EMIT message(tr("The service that opens files is not installed here"), false);
         return;
     }
@@ -174,23 +185,23 @@ void FileActions::transfer(const EntryList &entries, const Entry &target, bool m
     if (entries.isEmpty() || !m_operations.isAvailable())
         return;
     if (move)
-        m_operations.follow(FOps::ptr()->move(entries, target), tr("Moving %n item(s)", nullptr, entries.size()));
+        m_operations.follow(FOps::ptr()->move(entries, target), tr("Moving %1").arg(itemCount(entries.size())));
     else
-        m_operations.follow(FOps::ptr()->copy(entries, target), tr("Copying %n item(s)", nullptr, entries.size()));
+        m_operations.follow(FOps::ptr()->copy(entries, target), tr("Copying %1").arg(itemCount(entries.size())));
 }
 
 void FileActions::trash()
 {
     const EntryList entries = selection();
     if (!entries.isEmpty() && m_operations.isAvailable())
-        m_operations.follow(FOps::ptr()->trash(entries, false), tr("Trashing %n item(s)", nullptr, entries.size()));
+        m_operations.follow(FOps::ptr()->trash(entries, false), tr("Trashing %1").arg(itemCount(entries.size())));
 }
 
 void FileActions::restore()
 {
     const EntryList entries = selection();
     if (m_operations.isAvailable())
-        m_operations.follow(FOps::ptr()->restore(entries), tr("Restoring %n item(s)", nullptr, entries.size()));
+        m_operations.follow(FOps::ptr()->restore(entries), tr("Restoring %1").arg(itemCount(entries.size())));
 }
 
 void FileActions::remove()
@@ -198,9 +209,9 @@ void FileActions::remove()
     const EntryList entries = selection();
     if (entries.isEmpty() || !m_operations.isAvailable())
         return;
-    const QString question = tr("Delete %n item(s) for good? This cannot be undone.", nullptr, entries.size());
+    const QString question = tr("Delete %1 for good? This cannot be undone.").arg(itemCount(entries.size()));
     if (QMessageBox::question(m_view, tr("Delete"), question) == QMessageBox::Yes)
-        m_operations.follow(FOps::ptr()->remove(entries, false), tr("Deleting %n item(s)", nullptr, entries.size()));
+        m_operations.follow(FOps::ptr()->remove(entries, false), tr("Deleting %1").arg(itemCount(entries.size())));
 }
 
 void FileActions::rename()

@@ -72,4 +72,5 @@ private:
     QMenu *m_templates = nullptr;
     VeskFM::Entry m_awaited;       // just made; gets the cursor when its row arrives
     bool m_renamesAwaited = false; // and a name
+    bool m_openerSeen = false;     // the service that opens was there once
 };

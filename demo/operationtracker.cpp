@@ -50,9 +50,10 @@ bool OperationTracker::isAvailable()
         m_connected = true;
         connect(operations, &FOps::operationFinished, this, &OperationTracker::onFinished);
     }
-    if (!operations->isAvailable())
+    m_seen = m_seen || operations->isAvailable(); // one that has died since is started again
+    if (!m_seen)
         Q_EMIT finished(tr("The service for file operations is not installed here"));
-    return operations->isAvailable();
+    return m_seen;
 }
 
 void OperationTracker::follow(const FOpId &id, const QString &text)

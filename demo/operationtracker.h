@@ -35,4 +35,5 @@ private:
     QMap<VeskFM::FOpId, QString> m_running;
     QTimer m_progressTimer;
     bool m_connected = false;
+    bool m_seen = false; // the service was there once
 };

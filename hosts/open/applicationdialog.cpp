@@ -77,8 +77,7 @@ ApplicationDialog::ApplicationDialog(const EntryList &entries, const LaunchConte
     auto *const form = new QFormLayout;
     if (opens) {
         const QString name = m_entries.first().fileName();
-        form->addRow(tr("Open:"),
-                     new QLabel(m_entries.size() == 1 ? name : tr("%n file(s)", nullptr, m_entries.size())));
+        form->addRow(tr("Open:"), new QLabel(m_entries.size() == 1 ? name : tr("%1 files").arg(m_entries.size())));
     }
     form->addRow(tr("Type:"), m_type);
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
@@ -97,6 +96,7 @@ ApplicationDialog::ApplicationDialog(const EntryList &entries, const LaunchConte
     fillApplications();
     const QSize size = MimeRelatedSettings().applicationDialogSize();
     resize(size.isValid() ? size : QSize(420, 460));
+    m_applications->setFocus();
     show();
     activateWindow();
 }
