@@ -25,8 +25,10 @@ install_missing_packages() {
 build() {
     local dir=$root/build/$1
     install_missing_packages
-    if [ "$root/CMakePresets.json" -nt "$dir/build.ninja" ]; then # also when the latter is missing
+    # By content: a later configuration by ninja keeps what the presets said before.
+    if [ ! -e "$dir/build.ninja" ] || ! cmp -s "$root/CMakePresets.json" "$dir/CMakePresets.used"; then
         (cd "$root" && cmake --preset "$1") >&2
+        cp "$root/CMakePresets.json" "$dir/CMakePresets.used"
     fi
     cmake --build "$dir" --parallel "$(nproc)" ${2:+--target "${@:2}"} >&2
 }

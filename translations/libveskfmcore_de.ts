@@ -28,6 +28,16 @@
     </message>
 </context>
 <context>
+    <name>EntryDescribeThread</name>
+    <message numerus="yes">
+        <source>%n entry(s)</source>
+        <translation>
+            <numerusform>%n Eintrag</numerusform>
+            <numerusform>%n Einträge</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FileInfo</name>
     <message>
         <source>File information</source>
