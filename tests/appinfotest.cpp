@@ -9,10 +9,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
-#include <QDir>
-#include <QFile>
-#include <QStandardPaths>
-#include <QTest>
+#include <QtTest>
 
 using namespace VeskFM;
 

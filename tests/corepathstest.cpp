@@ -5,11 +5,7 @@
 
 #include <veskfm/corepaths.h>
 
-#include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QStandardPaths>
-#include <QTest>
+#include <QtTest>
 
 #include <sys/stat.h>
 

@@ -7,13 +7,9 @@
 #include <veskfm/core.h>
 
 #include <QApplication>
-#include <QFile>
-#include <QFileInfo>
-#include <QProcess>
-#include <QProcessEnvironment>
 #include <QScreen>
-#include <QTest>
 #include <QWidget>
+#include <QtTest>
 
 #include <csignal>
 

@@ -4,9 +4,7 @@
 #include "testtree.h"
 
 #include <QImage>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QTest>
+#include <QtTest>
 
 /// Runs the demo as a user would, with no display.
 class DemoTest : public QObject

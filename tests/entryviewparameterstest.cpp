@@ -5,11 +5,7 @@
 #include <veskfm/global.h>
 #include <veskfm/settings.h>
 
-#include <QCoreApplication>
-#include <QSettings>
-#include <QSignalSpy>
-#include <QTest>
-#include <QThread>
+#include <QtTest>
 
 #include <atomic>
 #include <memory>

@@ -9,9 +9,7 @@
 #include <veskfm/propspluginwidget.h>
 
 #include <QCheckBox>
-#include <QDateTime>
 #include <QLabel>
-#include <QPluginLoader>
 #include <QtConcurrentRun>
 #include <QtTest>
 

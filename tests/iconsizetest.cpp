@@ -3,9 +3,7 @@
 
 #include <veskfm/iconsize.h>
 
-#include <QDataStream>
-#include <QMap>
-#include <QTest>
+#include <QtTest>
 
 #include <limits>
 

@@ -5,11 +5,7 @@
 
 #include <veskplatform/vfsplacebase.h>
 
-#include <QDir>
-#include <QFile>
-#include <QSet>
-#include <QTest>
-#include <QUrl>
+#include <QtTest>
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -3,11 +3,7 @@
 
 #include "testtree.h"
 
-#include <QEventLoop>
-#include <QRandomGenerator>
-#include <QRegularExpression>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
 
 #include <fcntl.h>
 #include <sys/inotify.h>

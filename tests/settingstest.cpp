@@ -9,14 +9,7 @@
 
 #include <KUser>
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QPointer>
-#include <QSaveFile>
-#include <QSettings>
-#include <QSignalSpy>
-#include <QTest>
+#include <QtTest>
 
 #include <memory>
 

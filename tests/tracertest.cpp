@@ -5,13 +5,7 @@
 #include <fixedplaces.h>
 #include <veskfm/tracer.h>
 
-#include <QCoreApplication>
-#include <QDebug>
-#include <QFile>
-#include <QFileInfo>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QTest>
+#include <QtTest>
 
 #include <thread>
 

@@ -6,10 +6,9 @@
 #include <veskplatform/veskicon.h>
 #include <veskplatform/veskicontheme.h>
 
-#include <QDataStream>
 #include <QPainter>
 #include <QPixmap>
-#include <QTest>
+#include <QtTest>
 
 #include <sys/stat.h>
 

@@ -5,13 +5,9 @@
 
 #include <veskplatform/veskthumbnails.h>
 
-#include <QCryptographicHash>
-#include <QDir>
-#include <QDirIterator>
-#include <QFileInfo>
 #include <QImage>
-#include <QTest>
 #include <QtConcurrent>
+#include <QtTest>
 
 #include <sys/stat.h>
 

@@ -5,10 +5,8 @@
 
 #include <veskplatform/veskuidesktopentry.h>
 
-#include <QFile>
-#include <QLocale>
-#include <QTest>
 #include <QtConcurrent>
+#include <QtTest>
 
 #include <sys/stat.h>
 

@@ -6,10 +6,7 @@
 #include <core/core_p.h>
 #include <veskfm/core.h>
 
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QTest>
+#include <QtTest>
 
 using namespace VeskFM;
 

@@ -4,11 +4,7 @@
 #include <services/singletonereleaser.h>
 #include <veskfm/singletone.h>
 
-#include <QCoreApplication>
-#include <QEvent>
-#include <QTest>
-#include <QThread>
-#include <QTimer>
+#include <QtTest>
 
 #include <functional>
 #include <memory>
