@@ -5,23 +5,9 @@
 
 #include <veskfm/appinfo.h>
 
-#include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCall>
 #include <QtTest>
 
 using namespace VeskFM;
-
-/// Answers with what it got.
-class Echo : public QObject
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "test.Echo")
-
-public Q_SLOTS:
-    VeskFM::AppInfoList echo(const VeskFM::AppInfoList &infos) { return infos; }
-};
 
 class AppInfoTest : public QObject
 {
@@ -31,7 +17,6 @@ private Q_SLOTS:
     void namesByTheCommand();
     void readsDesktopEntries();
     void findsTheOriginOfACopy();
-    void crossesTheBus();
 
 private:
     /// Writes a desktop entry below the user's applications directory. Returns its path.
@@ -96,28 +81,6 @@ void AppInfoTest::findsTheOriginOfACopy()
              QStringLiteral("Copy")); // no plain id
     QCOMPARE(originOf("/elsewhere/origin.desktop"), QStringLiteral("Copy"));
     QCOMPARE(originOf(""), QStringLiteral("Copy"));
-}
-
-void AppInfoTest::crossesTheBus()
-{
-    AppInfo info;
-    info.setName(QStringLiteral("n"));
-    info.setComment(QStringLiteral("c"));
-    info.setExec(QStringLiteral("e"));
-    info.setIcon(QStringLiteral("i"));
-    info.setSource(AppInfo::DesktopEntryFile, QStringLiteral("/p"));
-    info.setTerminal(true);
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    Echo echo;
-    QVERIFY(bus.registerObject(QStringLiteral("/Echo"), &echo, QDBusConnection::ExportAllSlots));
-    QDBusMessage call = QDBusMessage::createMethodCall(bus.baseService(), QStringLiteral("/Echo"),
-                                                       QStringLiteral("test.Echo"), QStringLiteral("echo"));
-    call << QVariant::fromValue(AppInfoList({info, AppInfo()}));
-    QDBusConnection other = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("other"));
-    QDBusPendingCall pending = other.asyncCall(call);
-    QTRY_VERIFY(pending.isFinished());
-    QCOMPARE(pending.reply().signature(), "a(sssssib)");
-    QCOMPARE(qdbus_cast<AppInfoList>(pending.reply().arguments().value(0)), AppInfoList({info, AppInfo()}));
 }
 
 QTEST_MAIN(AppInfoTest)

@@ -56,10 +56,8 @@ void TracerTest::writesOneIndentedLineForEachRecord()
         QSKIP("the trace file is not in the build tree");
     QVERIFY(Tracer::createLogDirectory());
     QFile log(path);
-    QVERIFY(log.open(QIODevice::WriteOnly));
-    log.write("of a former run");
+    QVERIFY(log.open(QIODevice::WriteOnly) && log.write("of a former run"));
     log.close();
-
     QProcess child;
     child.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--child")});
     QVERIFY(child.waitForFinished());

@@ -154,8 +154,7 @@ void VeskIconTest::givesPixmapsWithEmblems()
 void VeskIconTest::isAnIconLikeAnyOther()
 {
     const QIcon icon = VeskIcon::fromTheme("base", {{Qt::TopLeftCorner, "emblem"}});
-    QCOMPARE(icon.name(), QStringLiteral("base"));
-    QVERIFY(!icon.isNull() && icon.pixmap(QSize()).isNull());
+    QVERIFY(icon.name() == "base" && icon.pixmap(QSize()).isNull());
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
     out << icon << QStringLiteral("what follows");
