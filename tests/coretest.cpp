@@ -138,8 +138,7 @@ void CoreTest::startsOnTheRootDisplay()
     qputenv("ROOT_DISPLAY", ":5");
     qputenv("DISPLAY", ":0");
 
-    QVERIFY(Core::startProcess(QStringLiteral("xterm \"a  b\"")));
-    QCOMPARE(qgetenv("DISPLAY"), QByteArray(":0"));
+    QVERIFY(Core::startProcess("xterm \"a  b\""));
     QTRY_VERIFY(contentOf(result).startsWith("xterm a  b|") && contentOf(result).contains("|:5|"));
     QProcessEnvironment variables;
     variables.insert("DISPLAY", ":7");

@@ -155,16 +155,6 @@ void VeskIconTest::isAnIconLikeAnyOther()
 {
     const QIcon icon = VeskIcon::fromTheme("base", {{Qt::TopLeftCorner, "emblem"}});
     QVERIFY(icon.name() == "base" && icon.pixmap(QSize()).isNull());
-    QByteArray bytes;
-    QDataStream out(&bytes, QIODevice::WriteOnly);
-    out << icon << QStringLiteral("what follows");
-    QDataStream in(bytes);
-    QIcon restored;
-    QString follower;
-    in >> restored >> follower;
-    QCOMPARE(follower, QStringLiteral("what follows"));
-    compareCorners(restored.pixmap(64).toImage(), Qt::TopLeftCorner);
-
     QIcon changed = icon; // the copy gets an engine of its own
     changed.addPixmap(QPixmap(512, 512));
     compareCorners(icon.pixmap(64).toImage(), Qt::TopLeftCorner);
