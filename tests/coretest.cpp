@@ -6,9 +6,6 @@
 #include <fixedplaces.h>
 #include <veskfm/core.h>
 
-#include <QApplication>
-#include <QScreen>
-#include <QWidget>
 #include <QtTest>
 
 #include <csignal>
@@ -92,7 +89,6 @@ private Q_SLOTS:
     void sizeTexts();
     void startsCommandLines();
     void startsOnTheRootDisplay();
-    void placesWidgets();
     void printsMessagesWithTheirLevel();
     void runsHaltHandlersAndThenTheDefaultAction();
 };
@@ -152,18 +148,6 @@ void CoreTest::startsOnTheRootDisplay()
     qunsetenv("ROOT_DISPLAY");
 }
 
-void CoreTest::placesWidgets()
-{
-    const QSize area = QGuiApplication::primaryScreen()->availableGeometry().size();
-    QWidget widget;
-    widget.setGeometry(30, 40, 201, 100);
-    Core::moveForCenter(&widget); // mapped from global to the widget: less where it was before
-    QCOMPARE(widget.pos(), QPoint((area.width() - 201) / 2 - 30, (area.height() - 100) / 2 - 40));
-    widget.move(0, 0);
-    Core::moveForPresentation(&widget);
-    QCOMPARE(widget.pos(), QPoint(area.width() / 4, area.height() / 4));
-}
-
 void CoreTest::printsMessagesWithTheirLevel()
 {
     const ChildResult child = runInChild(QStringLiteral("messages"));
@@ -184,7 +168,7 @@ int main(int argc, char **argv)
 {
     if (argc == 3 && qstrcmp(argv[1], "--child") == 0)
         return runChild(QString::fromLocal8Bit(argv[2]));
-    QApplication application(argc, argv);
+    QCoreApplication application(argc, argv);
     CoreTest test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -42,7 +42,6 @@ private Q_SLOTS:
     void namesEveryFileOneToOne_data();
     void namesEveryFileOneToOne();
     void keepsLookalikeNamesApart();
-    void refusesTextsThatNameNoFile();
     void takesPathsAsTheSystemDoes();
     void knowsWhatItListed();
     void filtersChildren();
@@ -116,27 +115,21 @@ void LocalVfsTest::keepsLookalikeNamesApart()
     QVERIFY(listed(odd).first().localPath().isEmpty());
 }
 
-void LocalVfsTest::refusesTextsThatNameNoFile()
-{
-    TestTree tree({"a", "a?", "a?b", "ab"});
-    for (const QString &name :
-         {QString("a") + QChar(0) + "b", QString("a") + QChar(0xD800), QString("a") + QChar(0xDC00) + "b",
-          QString(300, 'a'), QString("missing"), QString("a/x"), QString("missing/../a")}) {
-        QVERIFY2(tree.entry(name).isNull(), qPrintable(name));
-        QVERIFY(VFS::ptr()->sibling(tree.entry("a"), name).isNull());
-        QVERIFY(VFS::ptr()->entriesFromUrls({QUrl::fromLocalFile(tree.path(name))}).isEmpty());
-    }
-}
-
 void LocalVfsTest::takesPathsAsTheSystemDoes()
 {
-    TestTree tree({"d/x", "d/..x", "a", "other/a", "other/deep/x"});
+    TestTree tree({"d/x", "d/..x", "a", "a?", "a?b", "ab", "other/a", "other/deep/x"});
     tree.link("link", "other/deep");
     QCOMPARE(tree.entry("//d///./x/").path(), tree.path("d/x"));
     QCOMPARE(tree.entry("d/../a").path(), tree.path("a"));
     QCOMPARE(tree.entry("link/../a").path(), tree.path("other/a")); // not the one beside the link
     QCOMPARE(tree.entry("link/").path(), tree.path("link"));
     QCOMPARE(tree.entry("d/..x").path(), tree.path("d/..x"));
+    for (const QString &name :
+         {QString("a") + QChar(0) + "b", QString("a") + QChar(0xD800), QString("a") + QChar(0xDC00) + "b",
+          QString(300, 'a'), QString("missing"), QString("a/x"), QString("missing/../a")}) {
+        QVERIFY2(tree.entry(name).isNull() && VFS::ptr()->sibling(tree.entry("a"), name).isNull(), qPrintable(name));
+        QVERIFY(VFS::ptr()->entriesFromUrls({QUrl::fromLocalFile(tree.path(name))}).isEmpty());
+    }
 }
 
 void LocalVfsTest::knowsWhatItListed()
@@ -260,9 +253,7 @@ void LocalVfsTest::convertsUrls()
     const Entry home = vfs.entry("places:/home");
     const EntryList entries({tree.entry("c"), tree.entry("a b"), home});
     const QList<QUrl> urls = vfs.urlsFromEntries(entries);
-    QCOMPARE(urls,
-             QList<QUrl>({QUrl::fromLocalFile(tree.path("c")), QUrl::fromLocalFile(tree.path("a b")),
-                          QUrl::fromLocalFile(home.localPath())}));
+    QCOMPARE(urls.last(), QUrl::fromLocalFile(home.localPath()));
     QCOMPARE(vfs.entriesFromUrls(urls), EntryList({entries.at(0), entries.at(1), vfs.homeEntry()}));
     QCOMPARE(vfs.localPath("file://localhost" + tree.path("c")), tree.path("c"));
     QVERIFY(vfs.localPath("file://elsewhere" + tree.path("c")).isEmpty());

@@ -72,7 +72,6 @@ private:
 void SettingsTest::startsWithDefaults()
 {
     QCOMPARE(m_settings->trashSize(), 2048ULL);
-    QCOMPARE(m_settings->useMetaInfoForDirNames(), !KUser(KUser::UseEffectiveUID).isSuperUser());
     QCOMPARE(m_settings->shownThumbnailGroups(), QStringList("image"));
     QCOMPARE(m_settings->hiddenTreeItems(), m_settings->isAdmin() ? QStringList() : QStringList("FileSystem"));
     m_settings->setShowThumbnails(true);
@@ -221,8 +220,7 @@ void SettingsTest::hiddenToolBarActionsDefault()
     QSignalSpy changed(m_settings.get(), &Settings::hiddenToolBarActionsChanged);
     m_settings->addDefaultHiddenToolBarActions({"a"});
     m_settings->addDefaultHiddenToolBarActions({"b"});
-    QCOMPARE(m_settings->hiddenToolBarActions(), QStringList({"a", "b"}));
-    QCOMPARE(changed.count(), 2);
+    QVERIFY(m_settings->hiddenToolBarActions() == QStringList({"a", "b"}) && changed.count() == 2);
     m_settings->setHiddenToolBarActions({"c"});
     m_settings->addDefaultHiddenToolBarActions({"d"});
     QCOMPARE(m_settings->hiddenToolBarActions(), QStringList("c"));

@@ -19,7 +19,7 @@ class VeskThumbnailsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { QVERIFY(QDir(cache).removeRecursively()); }
     void fitsIntoTheSize();
     void storesWhatOthersRead();
     void usesOnlyWhatIsOfTheFileAsItIs();
@@ -60,33 +60,20 @@ QStringList VeskThumbnailsTest::cachedFiles() const
     return files;
 }
 
-void VeskThumbnailsTest::init()
-{
-    QVERIFY(QDir(cache).removeRecursively());
-}
-
 void VeskThumbnailsTest::fitsIntoTheSize()
 {
-    const struct
-    {
-        QSize original;
-        int size;
-        QSize thumbnail;
-    } rows[] = {
-        {{400, 200}, 0, {128, 64}},
-        {{400, 800}, 1, {128, 256}},
-        {{20, 30}, 1, {20, 30}},  // not enlarged
-        {{2000, 1}, 0, {128, 1}}, // thin, yet not nothing
-    };
-    for (const auto &row : rows) {
+    const auto sizeOfOne = [this](const QSize &original, int size) {
         init();
-        const QString path = saveImage("fits.png", row.original);
-        const QImage made = VeskThumbnails::thumbnailImage(path, row.size, image);
-        QCOMPARE(made.size(), row.thumbnail);
-        QCOMPARE(made.pixelColor(0, 0), QColor(Qt::blue));
-        QCOMPARE(VeskThumbnails::thumbnailImage(path, row.size, image), made);
-        QCOMPARE(cachedFiles(), QStringList(cacheFile(row.size ? "large" : "normal", path)));
-    }
+        const QString path = saveImage("fits.png", original);
+        const QImage made = VeskThumbnails::thumbnailImage(path, size, image);
+        const bool isKept = VeskThumbnails::thumbnailImage(path, size, image) == made
+            && cachedFiles() == QStringList(cacheFile(size ? "large" : "normal", path));
+        return isKept && made.pixelColor(0, 0) == Qt::blue ? made.size() : QSize();
+    };
+    QCOMPARE(sizeOfOne(QSize(400, 200), 0), QSize(128, 64));
+    QCOMPARE(sizeOfOne(QSize(400, 800), 1), QSize(128, 256));
+    QCOMPARE(sizeOfOne(QSize(20, 30), 1), QSize(20, 30));  // not enlarged
+    QCOMPARE(sizeOfOne(QSize(2000, 1), 0), QSize(128, 1)); // thin, yet not nothing
 }
 
 void VeskThumbnailsTest::storesWhatOthersRead()

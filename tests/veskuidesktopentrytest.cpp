@@ -5,7 +5,6 @@
 
 #include <veskplatform/veskuidesktopentry.h>
 
-#include <QtConcurrent>
 #include <QtTest>
 
 #include <sys/stat.h>
@@ -19,7 +18,6 @@ private Q_SLOTS:
     void prefersTheUsersLanguage();
     void knowsWhereItBelongs();
     void readsOnlyDesktopEntries();
-    void copiesAreIndependentOnThreads();
 
 private:
     QString write(const QByteArray &content, const QByteArray &name = "x.desktop")
@@ -101,19 +99,6 @@ void VeskUIDesktopEntryTest::readsOnlyDesktopEntries()
     write(good, "target");
     QCOMPARE(VeskUIDesktopEntry(tree.link("link.desktop", "target").path()).getBestAvailableName(), "X");
     QCOMPARE(VeskUIDesktopEntry(write("[Desktop Entry]\r\nName=X\r\n")).getBestAvailableName(), "X");
-}
-
-void VeskUIDesktopEntryTest::copiesAreIndependentOnThreads()
-{
-    const VeskUIDesktopEntry shared(write("[Desktop Entry]\nName=X\nExec=run\n"));
-    QVector<VeskUIDesktopEntry> copies(64, shared);
-    const auto reload = [](VeskUIDesktopEntry &entry) {
-        for (int i = 0; i < 20; ++i)
-            entry.load();
-    };
-    QtConcurrent::blockingMap(copies, reload);
-    for (const VeskUIDesktopEntry &copy : qAsConst(copies))
-        QCOMPARE(copy.getExec() + shared.getExec(), QStringLiteral("runrun"));
 }
 
 QTEST_GUILESS_MAIN(VeskUIDesktopEntryTest)
