@@ -9,6 +9,7 @@
 
 #include <QDBusArgument>
 #include <QDebug>
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -19,6 +20,13 @@ namespace VeskFM
 
 namespace
 {
+
+/// Without links and "..", so that nothing passes for what it is not.
+QString canonicalPath(const QString &directory)
+{
+    const QString canonical = QFileInfo(directory).canonicalFilePath();
+    return canonical.isEmpty() ? QDir::cleanPath(directory) : canonical;
+}
 
 QStringList applicationsLocations()
 {
@@ -167,9 +175,13 @@ bool AppInfo::isNull() const
 
 bool AppInfo::isFromStandardDirs() const
 {
+    if (m_desktopSourceFilePath.isEmpty())
+        return false;
+    // The file itself may be a link: that is how application bundles export theirs.
+    const QString place = withSlash(canonicalPath(QFileInfo(m_desktopSourceFilePath).path()));
     const QStringList directories = VeskUIDesktopEntry::getAllAppDesktopEntrySearchPaths();
-    return std::any_of(directories.begin(), directories.end(), [this](const QString &directory) {
-        return !directory.isEmpty() && m_desktopSourceFilePath.startsWith(withSlash(directory));
+    return std::any_of(directories.begin(), directories.end(), [&place](const QString &directory) {
+        return !directory.isEmpty() && place.startsWith(withSlash(canonicalPath(directory)));
     });
 }
 

@@ -65,6 +65,8 @@ void AppInfoTest::readsDesktopEntries()
     AppInfo beside;
     beside.setSource(AppInfo::DesktopEntryFile, path.section("/one", 0, 0) + "-2/x.desktop");
     QVERIFY(!beside.isFromStandardDirs());
+    beside.setSource(AppInfo::DesktopEntryFile, path.section("/one", 0, 0) + "/../x.desktop");
+    QVERIFY(!beside.isFromStandardDirs());
 }
 
 void AppInfoTest::findsTheOriginOfACopy()
