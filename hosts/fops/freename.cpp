@@ -80,7 +80,7 @@ FreeName::FreeName(const QByteArray &name, bool isDirectory, const QString &addi
     if (addition.isEmpty())
         return;
     splitSuffix();
-    m_base += " - " + addition.toUtf8();
+    m_addition = " - " + addition.toUtf8();
 }
 
 void FreeName::splitSuffix()
@@ -114,9 +114,10 @@ FreeName FreeName::forShortcutTo(const QByteArray &name, bool isDirectory)
 
 QByteArray FreeName::current() const
 {
-    QByteArray tail = m_suffix;
+    QByteArray tail = m_addition;
     if (m_number > 1)
-        tail.prepend(" (" + QByteArray::number(m_number) + ')');
+        tail += " (" + QByteArray::number(m_number) + ')';
+    tail += m_suffix;
     QByteArray base = m_base;
     if (!m_isExact && base.size() + tail.size() > NAME_MAX && tail.size() < NAME_MAX) {
         int end = NAME_MAX - tail.size();
@@ -129,7 +130,7 @@ QByteArray FreeName::current() const
 
 bool FreeName::next()
 {
-    if (++m_number == 2 && m_suffix.isEmpty() && !m_isExact)
+    if (++m_number == 2 && m_addition.isEmpty() && !m_isExact)
         splitSuffix();
     return !m_isExact;
 }

@@ -33,6 +33,7 @@ private:
     bool m_isExact = false;
     bool m_isDirectory = false;
     QByteArray m_base;
+    QByteArray m_addition;
     QByteArray m_suffix; // with its dot; split off the base when the first name is taken, which is seldom
     int m_number = 1;
 };

@@ -25,15 +25,17 @@ constexpr char prefix[] = ".vesk-fm-part-"; // then PROCESS-STARTTIME-NUMBER
 constexpr size_t prefixLength = sizeof prefix - 1;
 
 /// When a process started, in ticks since the machine did; process ids are used again, the two together are not.
-/// Empty when there is no such process.
+/// Empty when there is no such process, or it has ended and its parent has not asked for it yet.
 QByteArray startTime(const QByteArray &process)
 {
     QFile file(QLatin1String("/proc/") + QString::fromLatin1(process) + QLatin1String("/stat"));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     const QByteArray line = file.readAll();
-    constexpr int fieldBehindName = 19; // the 22nd of all; the name, the 2nd, may hold blanks and brackets
-    return line.mid(line.lastIndexOf(')') + 2).split(' ').value(fieldBehindName);
+    // Of all fields the 3rd is the state, the 22nd the time; the name, the 2nd, may hold blanks and brackets.
+    const QList<QByteArray> behindName = line.mid(line.lastIndexOf(')') + 2).split(' ');
+    constexpr int timeBehindName = 19;
+    return behindName.first() == "Z" || behindName.first() == "X" ? QByteArray() : behindName.value(timeBehindName);
 }
 
 bool isNumber(const QByteArray &text)

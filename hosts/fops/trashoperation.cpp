@@ -6,7 +6,10 @@
 #include "freename.h"
 #include "treemover.h"
 
+#include <veskplatform/standardpaths.h>
 #include <veskplatform/vesktrash.h>
+
+#include <QFile>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -47,6 +50,18 @@ Result trashOnItsMount(const QByteArray &path)
     g_clear_error(&error);
     g_object_unref(file);
     return result;
+}
+
+/// Whether the trash lies in the directory, or is it.
+bool holdsTrash(const struct stat &directory)
+{
+    QByteArray path = QFile::encodeName(VeskFM::StandardPaths::trashDirPath());
+    for (; !path.isEmpty(); path.truncate(path.lastIndexOf('/'))) {
+        struct stat facts = {};
+        if (stat(path.constData(), &facts) == 0 && facts.st_dev == directory.st_dev && facts.st_ino == directory.st_ino)
+            return true;
+    }
+    return false;
 }
 
 /// Makes the directory and the missing ones above it.
@@ -97,11 +112,11 @@ Result TrashOperation::trash(const QByteArray &path)
     if (fstatat(place.directory.get(), place.name.constData(), &facts, AT_SYMLINK_NOFOLLOW) != 0)
         return resultOfError(errno);
     const std::string source = place.fullPath().toStdString();
-    if (VeskTrash::isFileInTrash(source))
+    if (VeskTrash::isFileInTrash(source) || holdsTrash(facts))
         return Result::NotSupported;
 
     const std::string reserved = VeskTrash::registerFile(source);
-    if (reserved.empty()) // no trash in the home directory, or it lies in what is to be trashed
+    if (reserved.empty()) // there is no trash in the home directory
         return trashOnItsMount(place.fullPath());
     DiskPlace target;
     Result moved = DiskPlace::open(QByteArray::fromStdString(reserved), &target);
