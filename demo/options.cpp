@@ -87,7 +87,8 @@ Entry entryForArgument(const QByteArray &path)
     const QString here = QString::fromLatin1(QFile::encodeName(QDir::currentPath()));
     const QByteArray absolute = QDir::cleanPath(QDir(here).absoluteFilePath(relative)).toLatin1();
     const QUrl url = QUrl::fromEncoded("file://" + absolute.toPercentEncoding("/"), QUrl::StrictMode);
-    return VFS::ptr()->entriesFromUrls({url}).value(0);
+    const Entry entry = VFS::ptr()->entriesFromUrls({url}).value(0);
+    return entry.isNull() ? VFS::ptr()->entry(QString::fromUtf8(path)) : entry; // other programs pass VFS paths
 }
 
 QStringList nameFilterPatterns(const QString &text)

@@ -126,7 +126,7 @@ private Q_SLOTS:
         QVERIFY(!Open::ptr()->canOpen(Entry()));
         QCOMPARE(runTool({"--canOpen", QFile::encodeName(text.path())}), 0);
         QCOMPARE(runTool({"--canOpen", QFile::encodeName(program.path())}), 1);
-        QCOMPARE(runTool({"-e", "/no/such/file"}), 1);
+        QCOMPARE(runTool({"-e", "/no/such/file"}), 3);
         QCOMPARE(runTool({"--nonsense"}), 2);
         QFile::remove(m_tree.path("editor"));
         QCOMPARE(runTool({QFile::encodeName(text.path())}), 0);

@@ -7,8 +7,6 @@
 
 #include <veskplatform/vfs.h>
 
-#include <QStandardPaths>
-
 DesktopAdaptor::DesktopAdaptor(DesktopService *service)
     : QDBusAbstractAdaptor(service)
     , m_service(service)
@@ -23,7 +21,7 @@ int DesktopAdaptor::callRegularWindow(const VeskFM::Entry &entry, int options)
 
 void DesktopAdaptor::callDesktop()
 {
-    m_service->openWindow(VeskFM::VFS::ptr()->entry(QStandardPaths::writableLocation(QStandardPaths::DesktopLocation)));
+    m_service->openDesktop();
 }
 
 void DesktopAdaptor::callControlDialog()

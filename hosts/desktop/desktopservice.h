@@ -16,7 +16,9 @@ class DesktopService : public VeskFM::Service
 public:
     using Service::Service;
 
-    bool openWindow(const VeskFM::Entry &entry); ///< false where no window can be opened on it
+    /// Opens a window on a directory or place; on the directory of anything else. False where that is impossible.
+    bool openWindow(const VeskFM::Entry &entry);
+    bool openDesktop(); ///< on the user's desktop directory, or the home directory for want of one
 
 public Q_SLOTS:
     void release() override;

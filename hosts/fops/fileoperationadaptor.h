@@ -3,9 +3,10 @@
 
 #pragma once
 
-#include "entrypath.h"
 #include "fileoperationxml.h"
 #include "result.h"
+
+#include "common/entrypath.h"
 
 #include <veskfm/vendordomainprefix.h>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "entrypath.h"
 #include "fopsservice.h"
 
+#include "common/entrypath.h"
 #include "common/haltsignals.h"
 #include "common/hostconnection.h"
 

@@ -1,23 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "guihost.h"
 #include "mimeapplicationsadaptor.h"
 #include "openadaptor.h"
 #include "openservice.h"
 
 #include "common/hostconnection.h"
+#include "opening/guihost.h"
 
-#include <QApplication>
-#include <QTextCodec>
+#include <veskplatform/vfs.h>
 
 int main(int argc, char **argv)
 {
-    chooseHostPlatform();
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("vesk-fm-open"));
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8")); // the bus may start it without a locale
-    chooseHostIconTheme();
+    const GuiHost application(argc, argv, QStringLiteral("vesk-fm-open"));
+    registerEntryPathTypes();
+    VeskFM::VFS::ptr(); // made here, used by the workers
 
     OpenService service;
     QObject openObject;
@@ -25,7 +22,7 @@ int main(int argc, char **argv)
     new OpenAdaptor(&openObject, &service);
     new MimeApplicationsAdaptor(&mimeObject, &service);
     HostConnection bus(QStringLiteral("vesk-fm.open"));
-    QObject::connect(&bus, &HostConnection::lost, &application, &QCoreApplication::quit);
+    QObject::connect(&bus, &HostConnection::lost, qApp, &QCoreApplication::quit);
     if (!bus.offer(QStringLiteral("/"), &service) || !bus.offer(QStringLiteral("/Open"), &openObject)
         || !bus.offer(QStringLiteral("/MimeApps"), &mimeObject) || !bus.claimName())
         return 1;

@@ -3,8 +3,9 @@
 
 #include "mimeapplicationsadaptor.h"
 
-#include "associations.h"
 #include "openservice.h"
+
+#include "opening/associations.h"
 
 using namespace VeskFM;
 
@@ -33,8 +34,12 @@ void setExecFor(const QStringList &types, const QString &exec)
     AppInfo info;
     info.setExec(exec);
     const GAppPtr app = Associations::find(info);
-    for (const QString &type : types)
-        Associations::setDefault(type, app.get());
+    for (const QString &type : types) {
+        if (exec.isEmpty())
+            Associations::reset(type);
+        else
+            Associations::setDefault(type, app.get());
+    }
 }
 
 } // namespace

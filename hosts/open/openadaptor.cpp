@@ -5,19 +5,23 @@
 
 #include "openservice.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
+
 OpenAdaptor::OpenAdaptor(QObject *object, OpenService *service)
     : QDBusAbstractAdaptor(object)
     , m_service(service)
 {
 }
 
-void OpenAdaptor::open(const VeskFM::EntryList &entries, const QVariantMap &options)
+void OpenAdaptor::open(const EntryPathList &entries, const QVariantMap &options)
 {
-    m_service->open(entries, options);
+    m_service->open(pathsOf(entries), options);
 }
 
-bool OpenAdaptor::canOpen(const VeskFM::Entry &entry)
+bool OpenAdaptor::canOpen(const EntryPath &entry, const QDBusMessage &call)
 {
-    m_service->recallUnloader();
-    return ::canOpen(entry);
+    call.setDelayedReply(true);
+    m_service->askCanOpen(entry.path, [call](bool can) { QDBusConnection::sessionBus().send(call.createReply(can)); });
+    return false; // goes nowhere
 }

@@ -5,13 +5,15 @@
 
 #include "openxml.h"
 
+#include "common/entrypath.h"
+
 #include <veskfm/vendordomainprefix.h>
-#include <veskplatform/entrylist.h>
 
 #include <QDBusAbstractAdaptor>
 #include <QVariantMap>
 
 class OpenService;
+class QDBusMessage;
 
 /// The bus interface for opening; its description tells what each method does.
 class OpenAdaptor : public QDBusAbstractAdaptor
@@ -24,8 +26,8 @@ public:
     OpenAdaptor(QObject *object, OpenService *service); ///< @p object is the one on the bus
 
 public Q_SLOTS:
-    void open(const VeskFM::EntryList &entries, const QVariantMap &options);
-    bool canOpen(const VeskFM::Entry &entry);
+    void open(const EntryPathList &entries, const QVariantMap &options);
+    bool canOpen(const EntryPath &entry, const QDBusMessage &call);
 
 private:
     OpenService *const m_service;

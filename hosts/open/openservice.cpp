@@ -3,40 +3,81 @@
 
 #include "openservice.h"
 
-#include "applicationdialog.h"
+#include "opening/applicationdialog.h"
+#include "opening/guihost.h"
+
+#include <veskplatform/vfs.h>
+
+#include <QFutureWatcher>
+#include <QtConcurrent>
 
 using namespace VeskFM;
 
-void OpenService::open(const EntryList &entries, const QVariantMap &options)
+namespace
 {
-    recallUnloader();
-    const LaunchContext context(options);
-    EntryList existing;
-    for (const Entry &entry : entries) {
-        if (!entry.isNull())
-            existing.append(entry);
-    }
-    if (existing.isEmpty())
-        return;
-    if (options.value(QStringLiteral("dialog")).toBool()) {
-        showDialog(existing, context);
-        return;
-    }
-    const EntryList left = openWithDefaults(existing, context);
-    if (!left.isEmpty())
-        showDialog(left, context); // nothing is set for them: ask
+
+constexpr int mostWorkers = 16; // requests that may wait for disks at one time
+
+EntryList entriesOf(const QStringList &paths)
+{
+    EntryList entries;
+    for (const QString &path : paths)
+        entries.append(VFS::ptr()->entry(path));
+    return entries;
+}
+
+} // namespace
+
+OpenService::OpenService(QObject *parent)
+    : Service(parent)
+{
+    m_workers.setMaxThreadCount(mostWorkers);
+}
+
+void OpenService::open(const QStringList &paths, const QVariantMap &options)
+{
+    const bool choose = options.value(QStringLiteral("dialog")).toBool();
+    find(paths, options, [this, choose](const Findings &found) {
+        const OpenTargetList left = choose ? found.targets : openWithDefaults(found.targets, found.context);
+        if (!left.isEmpty())
+            showDialog(left, found.context); // nothing is set for them: ask
+    });
+}
+
+void OpenService::askCanOpen(const QString &path, const std::function<void(bool)> &answer)
+{
+    find({path}, {},
+         [answer](const Findings &found) { answer(!found.targets.isEmpty() && hasDefault(found.targets.first())); });
 }
 
 void OpenService::showAssociationDialog()
 {
-    showDialog({}, LaunchContext());
+    showDialog({}, LaunchContext::fromOptions({}));
 }
 
-void OpenService::showDialog(const EntryList &entries, const LaunchContext &context)
+void OpenService::find(const QStringList &paths, const QVariantMap &options, const Continuation &next)
 {
     lockUnloader();
-    auto *const dialog = new ApplicationDialog(entries, context);
-    connect(dialog, &QObject::destroyed, this, [this] { unlockUnloader(); });
+    auto *const watcher = new QFutureWatcher<Findings>(this);
+    connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher, next] {
+        watcher->deleteLater();
+        next(watcher->result());
+        unlockUnloader();
+    });
+    watcher->setFuture(QtConcurrent::run(&m_workers, [paths, options]() -> Findings {
+        return {openTargets(entriesOf(paths)), LaunchContext::fromOptions(options)};
+    }));
+}
+
+void OpenService::showDialog(const OpenTargetList &targets, const LaunchContext &context)
+{
+    if (!GuiHost::hasDisplay()) {
+        qCritical("there is no display to ask on which application to use");
+        return;
+    }
+    lockUnloader();
+    auto *const dialog = new ApplicationDialog(targets, context);
+    connect(dialog, &QObject::destroyed, this, &Service::unlockUnloader);
 }
 
 void OpenService::release() {}

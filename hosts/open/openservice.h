@@ -3,26 +3,43 @@
 
 #pragma once
 
-#include "launch.h"
+#include "opening/launch.h"
 
 #include <veskfm/service.h>
 
+#include <QThreadPool>
+
+#include <functional>
+
 /// The service that opens entries and keeps associations. A dialog that is open keeps the process alive.
 ///
+/// Files are looked at by workers: a disk that does not answer holds up what is to be opened on it, and nothing else.
 /// Thread: main.
 class OpenService : public VeskFM::Service
 {
     Q_OBJECT
 
 public:
-    using Service::Service;
+    explicit OpenService(QObject *parent = nullptr);
 
-    void open(const VeskFM::EntryList &entries, const QVariantMap &options);
+    void open(const QStringList &paths, const QVariantMap &options); ///< VFS paths
+    /// Calls @p answer later, in the main thread.
+    void askCanOpen(const QString &path, const std::function<void(bool)> &answer);
     void showAssociationDialog();
 
 public Q_SLOTS:
     void release() override;
 
 private:
-    void showDialog(const VeskFM::EntryList &entries, const LaunchContext &context);
+    struct Findings
+    {
+        OpenTargetList targets;
+        LaunchContext context;
+    };
+    using Continuation = std::function<void(const Findings &)>;
+
+    void find(const QStringList &paths, const QVariantMap &options, const Continuation &next);
+    void showDialog(const OpenTargetList &targets, const LaunchContext &context);
+
+    QThreadPool m_workers;
 };

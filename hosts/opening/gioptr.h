@@ -16,6 +16,10 @@ struct GObjectUnref
 {
     template <typename T> void operator()(T *object) const { g_object_unref(object); }
 };
+struct GKeyFileUnref
+{
+    void operator()(GKeyFile *file) const { g_key_file_unref(file); }
+};
 struct GFree
 {
     void operator()(char *text) const { g_free(text); }
@@ -47,6 +51,7 @@ private:
     GError *m_error = nullptr;
 };
 
+/// The members of a list that the caller got for good; frees it.
 inline GAppList taken(GList *list)
 {
     GAppList apps;

@@ -14,16 +14,19 @@
 namespace Associations
 {
 
-VeskFM::AppInfo describe(GAppInfo *app);  ///< a null value for null
-GAppPtr find(const VeskFM::AppInfo &app); ///< by its desktop entry, else by its command line; null for neither
+VeskFM::AppInfo describe(GAppInfo *app); ///< a null value for null
+/// By its desktop entry, else by its command line, which need not be a registered one; null where neither names a
+/// program that is there.
+GAppPtr find(const VeskFM::AppInfo &app);
 
 GAppPtr defaultFor(const QString &type); ///< null for none
 GAppList allFor(const QString &type);    ///< the default first
-GAppList all();                          ///< those that want to be shown
+GAppList all();                          ///< those that want to be shown, by name
 
 bool setDefault(const QString &type, GAppInfo *app);
 bool setDefaultForItsTypes(GAppInfo *app); ///< for every type that its desktop entry names
 /// Makes @p apps the applications for @p type, in that order, the first as the default.
 void setAll(const QString &type, const GAppList &apps);
+void reset(const QString &type); ///< takes back what the user has set
 
 } // namespace Associations

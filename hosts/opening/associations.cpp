@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "associations.h"
+
+#include "commandline.h"
+#include "declaredtypes.h"
+
+#include <QDir>
+
+#include <algorithm>
+#include <functional>
+
+using namespace VeskFM;
+
+namespace
+{
+
+bool isIn(const GAppList &apps, const GAppPtr &app)
+{
+    return std::any_of(apps.begin(), apps.end(),
+                       [&app](const GAppPtr &other) { return g_app_info_equal(app.get(), other.get()); });
+}
+
+QString desktopFile(GAppInfo *app)
+{
+    return QString::fromUtf8(G_IS_DESKTOP_APP_INFO(app) ? g_desktop_app_info_get_filename(G_DESKTOP_APP_INFO(app))
+                                                        : nullptr);
+}
+
+AppInfo infoOf(const QString &desktopEntry)
+{
+    return desktopEntry.isEmpty() ? AppInfo() : AppInfo::appInfo(desktopEntry);
+}
+
+QString commandLine(GAppInfo *app)
+{
+    return QString::fromUtf8(g_app_info_get_commandline(app));
+}
+
+GAppPtr takenIf(GAppList &apps, const std::function<bool(GAppInfo *)> &matches)
+{
+    for (GAppPtr &app : apps) {
+        if (matches(app.get()))
+            return std::move(app);
+    }
+    return nullptr;
+}
+
+GAppPtr registeredFile(GAppList &known, const QString &path)
+{
+    const QString file = QDir::cleanPath(path);
+    return takenIf(known, [&file](GAppInfo *app) { return desktopFile(app) == file; });
+}
+
+GAppPtr registeredCommand(GAppList &known, const QString &command)
+{
+    GAppPtr same = takenIf(known, [&command](GAppInfo *app) { return commandLine(app) == command; });
+    if (same)
+        return same;
+    const QString program = CommandLine::withoutFiles(command);
+    return takenIf(known, [&program](GAppInfo *app) { return CommandLine::withoutFiles(commandLine(app)) == program; });
+}
+
+} // namespace
+
+AppInfo Associations::describe(GAppInfo *app)
+{
+    if (!app)
+        return {};
+    AppInfo info = infoOf(desktopFile(app)); // what every client gets that reads the entry itself
+    if (!info.isNull())
+        return info;
+    info.setName(QString::fromUtf8(g_app_info_get_display_name(app)));
+    info.setExec(commandLine(app));
+    return info;
+}
+
+GAppPtr Associations::find(const AppInfo &app)
+{
+    GAppList known = taken(g_app_info_get_all());
+    const QString file = app.desktopSourceFilePath();
+    GAppPtr found = registeredFile(known, file);
+    if (!found && !file.isEmpty()) // a copy, as on the desktop
+        found = registeredFile(known, AppInfo::appInfoForOriginFile(file).desktopSourceFilePath());
+    if (found)
+        return found;
+    // mimeapps.list can name registered entries only: of another one the command gets an entry of its own.
+    const AppInfo unregistered = infoOf(file);
+    const AppInfo &source = unregistered.exec().isEmpty() ? app : unregistered;
+    const QString command = source.exec().trimmed();
+    if (command.isEmpty())
+        return nullptr;
+    found = registeredCommand(known, command);
+    return found ? std::move(found) : CommandLine::application(command, source.name(), source.terminal());
+}
+
+GAppPtr Associations::defaultFor(const QString &type)
+{
+    GAppPtr app(g_app_info_get_default_for_type(type.toUtf8().constData(), FALSE));
+    if (app)
+        return app;
+    GAppList declaring = DeclaredTypes::applications(type);
+    return declaring.empty() ? nullptr : std::move(declaring.front());
+}
+
+GAppList Associations::allFor(const QString &type)
+{
+    GAppList apps;
+    const auto add = [&apps](GAppList more) {
+        for (GAppPtr &app : more) {
+            if (app && !isIn(apps, app))
+                apps.push_back(std::move(app));
+        }
+    };
+    GAppList first;
+    first.push_back(defaultFor(type));
+    add(std::move(first));
+    add(taken(g_app_info_get_all_for_type(type.toUtf8().constData())));
+    add(DeclaredTypes::applications(type));
+    return apps;
+}
+
+GAppList Associations::all()
+{
+    GAppList apps = taken(g_app_info_get_all());
+    apps.erase(
+        std::remove_if(apps.begin(), apps.end(), [](const GAppPtr &app) { return !g_app_info_should_show(app.get()); }),
+        apps.end());
+    std::sort(apps.begin(), apps.end(), [](const GAppPtr &a, const GAppPtr &b) {
+        return g_utf8_collate(g_app_info_get_display_name(a.get()), g_app_info_get_display_name(b.get())) < 0;
+    });
+    return apps;
+}
+
+bool Associations::setDefault(const QString &type, GAppInfo *app)
+{
+    GErrorGuard error("cannot set the default application");
+    return app && !type.isEmpty() && g_app_info_set_as_default_for_type(app, type.toUtf8().constData(), &error);
+}
+
+bool Associations::setDefaultForItsTypes(GAppInfo *app)
+{
+    const QStringList types = app ? DeclaredTypes::of(app) : QStringList();
+    bool done = !types.isEmpty();
+    for (const QString &type : types)
+        done = setDefault(type, app) && done;
+    return done;
+}
+
+void Associations::setAll(const QString &type, const GAppList &apps)
+{
+    if (type.isEmpty())
+        return;
+    reset(type); // a removed application would stay the default
+    const QByteArray name = type.toUtf8();
+    for (const GAppPtr &former : allFor(type)) {
+        if (!isIn(apps, former))
+            g_app_info_remove_supports_type(former.get(), name.constData(), nullptr);
+    }
+    for (auto app = apps.rbegin(); app != apps.rend(); ++app) // each goes to the front
+        g_app_info_set_as_last_used_for_type(app->get(), name.constData(), nullptr);
+    if (!apps.empty())
+        setDefault(type, apps.front().get());
+}
+
+void Associations::reset(const QString &type)
+{
+    if (!type.isEmpty())
+        g_app_info_reset_type_associations(type.toUtf8().constData());
+}
