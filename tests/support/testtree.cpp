@@ -22,7 +22,12 @@ TestTree::TestTree(std::initializer_list<const char *> names)
 
 TestTree::~TestTree()
 {
-    std::error_code ignored; // QTemporaryDir would leave names that are no text
+    std::error_code ignored; // QTemporaryDir would leave names that are no text, and what may not be written
+    const auto options = fs::directory_options::skip_permission_denied;
+    for (const fs::directory_entry &node : fs::recursive_directory_iterator(bytes().constData(), options, ignored)) {
+        if (node.is_directory(ignored) && !node.is_symlink(ignored))
+            fs::permissions(node.path(), fs::perms::owner_all, fs::perm_options::add, ignored);
+    }
     fs::remove_all(bytes().constData(), ignored);
 }
 
