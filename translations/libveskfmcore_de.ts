@@ -123,6 +123,13 @@
     </message>
 </context>
 <context>
+    <name>FileOperations</name>
+    <message>
+        <source>shortcut</source>
+        <translation>Verknüpfung</translation>
+    </message>
+</context>
+<context>
     <name>IconSize</name>
     <message>
         <source>Tiny</source>

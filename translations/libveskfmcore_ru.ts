@@ -126,6 +126,13 @@
     </message>
 </context>
 <context>
+    <name>FileOperations</name>
+    <message>
+        <source>shortcut</source>
+        <translation>ярлык</translation>
+    </message>
+</context>
+<context>
     <name>IconSize</name>
     <message>
         <source>Tiny</source>

@@ -34,6 +34,24 @@ bool isSameNode(const struct stat &a, const struct stat &b)
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
+/// Whether a directory is, or lies in, what has a name in another.
+bool isInside(int directory, int parent, const char *name)
+{
+    struct stat tree = {};
+    struct stat last = {};
+    struct stat step = {};
+    if (fstatat(parent, name, &tree, AT_SYMLINK_NOFOLLOW) != 0)
+        return false;
+    Descriptor current(openat(directory, ".", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    while (current && fstat(current.get(), &step) == 0 && !isSameNode(step, last)) { // the root is its own parent
+        if (isSameNode(step, tree))
+            return true;
+        last = step;
+        current = Descriptor(openat(current.get(), "..", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    }
+    return false;
+}
+
 /// For file systems that cannot rename and refuse to replace in one step. A file gets its new name by a link, which
 /// never replaces; where that fails, too, only a look before is left. Returns an errno.
 int renameInSteps(int fromParent, const char *from, int toParent, const char *to)
@@ -148,7 +166,7 @@ Result renameToFreeName(int fromParent, const QByteArray &from, int toParent, Fr
             *crossesDevices = error == EXDEV;
         if (error == 0)
             *taken = candidate;
-        if (error == EINVAL) // the one reason that is left: a directory below itself
+        if (error == EINVAL && isInside(toParent, fromParent, from.constData()))
             return Result::IntoItself;
         if (error != EEXIST)
             return resultOfError(error);

@@ -39,7 +39,8 @@ private:
 };
 
 /// Renames, and never replaces anything: the node gets the first name of @p name that is free.
-/// @param taken the name it got
-/// Errors: Exists when no name is left; CrossDevice is told by @p crossesDevices instead.
+/// @param taken          the name it got
+/// @param crossesDevices set to whether it failed because the two are on different file systems
+/// Errors: Exists when no name is left.
 Result renameToFreeName(int fromParent, const QByteArray &from, int toParent, FreeName name, QByteArray *taken,
                         bool *crossesDevices = nullptr);

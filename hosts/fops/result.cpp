@@ -26,6 +26,7 @@ Result resultOfError(int error)
     case EDQUOT:
     case EFBIG:
         return Result::NoSpace;
+    case EINVAL: // of a name: file systems from elsewhere do not take all
     case EOPNOTSUPP:
     case ENOSYS:
         return Result::NotSupported;
