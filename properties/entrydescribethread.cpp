@@ -71,6 +71,7 @@ void EntryDescribeThread::stop()
 
 void EntryDescribeThread::relaxationTimeout()
 {
+    m_relaxationTimer->stop();
     if (isRunning())
         return;
     setRunning(true);

@@ -11,7 +11,8 @@ namespace VeskFM
 class PlacesModelPrivate;
 
 /// The tree of a side panel: the groups of places (favorites, places, storage devices, network, network resources), the
-/// places in them, and the directories below those. Behind the groups come extra entries of the application.
+/// places in them, and the directories below those. Extra entries of the application come behind the groups,
+/// unless they are places that the registry sorts otherwise.
 ///
 /// It shows these from the start: their rows arrive from the event loop after the construction, as after rebuild().
 /// Places stand in the order of the place registry. What Settings::hiddenTreeItems() names is left out, and changes of

@@ -35,7 +35,9 @@ public:
     bool checkSuspend();   ///< for the worker: waits while it is to pause; always true
 
 public Q_SLOTS:
-    void suspend(); ///< for the owner: pauses the worker, unless it is paused already
+    /// For the owner: pauses the worker, unless it is paused already. Does not wait, and so misses a worker that passes a
+    /// safe point at that very moment.
+    void suspend();
     /// For the owner: lets the worker go on. After suspend() it takes 100 ms, otherwise it returns at once.
     void release();
 

@@ -73,10 +73,19 @@ public:
             list.prepend(nodes.value(path));
         return list;
     }
+    EntryList pathEntryList(const Entry &entry, const Entry &from) const override
+    {
+        EntryList list = pathEntryList(entry);
+        while (!list.isEmpty() && list.first() != from)
+            list.removeFirst();
+        return list;
+    }
+    bool mayContainContainers(const Entry &entry) const override { return !leaves.contains(entry.path()); }
     VFSPlaceBase *placeBase() const override { return &places; }
     EntryWatcher *entryWatcher() const override { return &watcher; }
 
     QHash<QString, Entry> nodes; // by path; what is not in here does not exist
+    QStringList leaves;          // paths of the directories that cannot contain directories
     mutable FakePlaces places;
     mutable FakeWatcher watcher;
 };
