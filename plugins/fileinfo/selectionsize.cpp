@@ -50,6 +50,8 @@ bool SelectionSize::add(const EntryList &entries)
 {
     std::vector<QByteArray> directories; // after the files, which then are known when a directory holds one of them
     for (const Entry &entry : entries) {
+        if (isStopped())
+            return false;
         const QByteArray path = diskPath(entry);
         struct stat found = {};
         if (path.isEmpty() || lstat(path.constData(), &found) != 0)
