@@ -29,6 +29,8 @@ QString problem(int code)
         QT_TR_NOOP("no space left"),
         QT_TR_NOOP("a folder cannot go into itself"),
         QT_TR_NOOP("not possible here"),
+        QT_TR_NOOP("failed"),
+        QT_TR_NOOP("something changed while it was moved, and stays"),
     };
     const bool known = code >= 0 && code < int(std::size(texts));
     return OperationTracker::tr(known ? texts[code] : QT_TR_NOOP("failed"));
