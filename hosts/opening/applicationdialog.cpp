@@ -229,6 +229,10 @@ void ApplicationDialog::apply()
         tellProblem(tr("Choose an application, or type a command line."));
         return;
     }
+    if (!Associations::isType(m_types.value(0))) {
+        tellProblem(tr("A type is written like \"text/plain\"."));
+        return;
+    }
     const GAppPtr app = Associations::find(info);
     if (!app) {
         tellProblem(tr("There is no such program."));

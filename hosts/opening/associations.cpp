@@ -7,6 +7,7 @@
 #include "declaredtypes.h"
 
 #include <QDir>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <functional>
@@ -64,6 +65,12 @@ GAppPtr registeredCommand(GAppList &known, const QString &command)
 
 } // namespace
 
+bool Associations::isType(const QString &text)
+{
+    static const QRegularExpression pattern(QStringLiteral("^[\\w.+!#$&^-]+/[\\w.+!#$&^-]+$"));
+    return pattern.match(text).hasMatch();
+}
+
 AppInfo Associations::describe(GAppInfo *app)
 {
     if (!app)
@@ -97,27 +104,24 @@ GAppPtr Associations::find(const AppInfo &app)
 
 GAppPtr Associations::defaultFor(const QString &type)
 {
-    GAppPtr app(g_app_info_get_default_for_type(type.toUtf8().constData(), FALSE));
-    if (app)
-        return app;
-    GAppList declaring = DeclaredTypes::applications(type);
-    return declaring.empty() ? nullptr : std::move(declaring.front());
+    GAppList apps = allFor(type);
+    return apps.empty() ? nullptr : std::move(apps.front());
 }
 
 GAppList Associations::allFor(const QString &type)
 {
+    const QByteArray name = type.toUtf8();
+    const QStringList removed = DeclaredTypes::removedFrom(type); // GIO may still call one of them the default
     GAppList apps;
-    const auto add = [&apps](GAppList more) {
-        for (GAppPtr &app : more) {
-            if (app && !isIn(apps, app))
-                apps.push_back(std::move(app));
-        }
+    const auto add = [&apps, &removed](GAppPtr app) {
+        if (app && !isIn(apps, app) && !removed.contains(QString::fromUtf8(g_app_info_get_id(app.get()))))
+            apps.push_back(std::move(app));
     };
-    GAppList first;
-    first.push_back(defaultFor(type));
-    add(std::move(first));
-    add(taken(g_app_info_get_all_for_type(type.toUtf8().constData())));
-    add(DeclaredTypes::applications(type));
+    add(GAppPtr(g_app_info_get_default_for_type(name.constData(), FALSE)));
+    for (GAppPtr &app : taken(g_app_info_get_all_for_type(name.constData())))
+        add(std::move(app));
+    for (GAppPtr &app : DeclaredTypes::applications(type))
+        add(std::move(app));
     return apps;
 }
 
@@ -136,7 +140,7 @@ GAppList Associations::all()
 bool Associations::setDefault(const QString &type, GAppInfo *app)
 {
     GErrorGuard error("cannot set the default application");
-    return app && !type.isEmpty() && g_app_info_set_as_default_for_type(app, type.toUtf8().constData(), &error);
+    return app && isType(type) && g_app_info_set_as_default_for_type(app, type.toUtf8().constData(), &error);
 }
 
 bool Associations::setDefaultForItsTypes(GAppInfo *app)
@@ -150,7 +154,7 @@ bool Associations::setDefaultForItsTypes(GAppInfo *app)
 
 void Associations::setAll(const QString &type, const GAppList &apps)
 {
-    if (type.isEmpty())
+    if (!isType(type))
         return;
     reset(type); // a removed application would stay the default
     const QByteArray name = type.toUtf8();
@@ -166,6 +170,6 @@ void Associations::setAll(const QString &type, const GAppList &apps)
 
 void Associations::reset(const QString &type)
 {
-    if (!type.isEmpty())
+    if (isType(type))
         g_app_info_reset_type_associations(type.toUtf8().constData());
 }

@@ -14,6 +14,8 @@
 namespace Associations
 {
 
+bool isType(const QString &text); ///< whether it is written like one; setters do nothing with others
+
 VeskFM::AppInfo describe(GAppInfo *app); ///< a null value for null
 /// By its desktop entry, else by its command line, which need not be a registered one; null where neither names a
 /// program that is there.

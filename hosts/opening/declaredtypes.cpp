@@ -27,22 +27,6 @@ QStringList kindsOf(const QString &type)
     return kinds;
 }
 
-QStringList removedFrom(const QString &type)
-{
-    const std::unique_ptr<GKeyFile, GKeyFileUnref> file(g_key_file_new());
-    const QString path =
-        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1String("/mimeapps.list");
-    QStringList ids;
-    if (!g_key_file_load_from_file(file.get(), QFile::encodeName(path).constData(), G_KEY_FILE_NONE, nullptr))
-        return ids;
-    char **const list =
-        g_key_file_get_string_list(file.get(), "Removed Associations", type.toUtf8().constData(), nullptr, nullptr);
-    for (char **id = list; id && *id; ++id)
-        ids.append(QString::fromUtf8(*id));
-    g_strfreev(list);
-    return ids;
-}
-
 int distance(GAppInfo *app, const QStringList &kinds)
 {
     const QStringList types = DeclaredTypes::of(app);
@@ -59,6 +43,22 @@ QStringList DeclaredTypes::of(GAppInfo *app)
     for (const char **type = g_app_info_get_supported_types(app); type && *type; ++type)
         types.append(QString::fromUtf8(*type));
     return types;
+}
+
+QStringList DeclaredTypes::removedFrom(const QString &type)
+{
+    const std::unique_ptr<GKeyFile, GKeyFileUnref> file(g_key_file_new());
+    const QString path =
+        QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1String("/mimeapps.list");
+    QStringList ids;
+    if (!g_key_file_load_from_file(file.get(), QFile::encodeName(path).constData(), G_KEY_FILE_NONE, nullptr))
+        return ids;
+    char **const list =
+        g_key_file_get_string_list(file.get(), "Removed Associations", type.toUtf8().constData(), nullptr, nullptr);
+    for (char **id = list; id && *id; ++id)
+        ids.append(QString::fromUtf8(*id));
+    g_strfreev(list);
+    return ids;
 }
 
 GAppList DeclaredTypes::applications(const QString &type)

@@ -12,6 +12,9 @@ namespace DeclaredTypes
 
 QStringList of(GAppInfo *app); ///< the types that the application says to open
 
+/// The ids of the applications that the user took from the type.
+QStringList removedFrom(const QString &type);
+
 /// The applications that say to open the type itself or one that it is a kind of, the nearest kind first, then by the
 /// names of their entries. Without those that the user took from the type.
 GAppList applications(const QString &type);

@@ -5,13 +5,12 @@
 
 #include "associations.h"
 #include "commandline.h"
+#include "giolaunchcontext.h"
 
 #include <unistd.h>
 
 namespace
 {
-
-using GLaunchContextPtr = std::unique_ptr<GAppLaunchContext, GObjectUnref>;
 
 /// Runs in the child, before the application.
 void enterDirectory(gpointer directory)
@@ -19,21 +18,9 @@ void enterDirectory(gpointer directory)
     if (chdir(static_cast<const char *>(directory)) != 0) {} // it was there a moment ago; the present one will do
 }
 
-/// The environment that the application adds to ours. An id or token that this process was started with is spent.
-GLaunchContextPtr launchContext(const LaunchContext &context)
+bool startsOverTheBus(GDesktopAppInfo *app)
 {
-    GLaunchContextPtr result(g_app_launch_context_new());
-    const auto pass = [&result](const char *variable, const QByteArray &value) {
-        if (value.isEmpty())
-            g_app_launch_context_unsetenv(result.get(), variable);
-        else
-            g_app_launch_context_setenv(result.get(), variable, value.constData());
-    };
-    pass("DESKTOP_STARTUP_ID", context.startupId);
-    pass("XDG_ACTIVATION_TOKEN", context.activationToken);
-    pass("DBUS_STARTER_ADDRESS", {}); // the bus started this service, not the application
-    pass("DBUS_STARTER_BUS_TYPE", {});
-    return result;
+    return g_desktop_app_info_get_boolean(app, G_KEY_FILE_DESKTOP_KEY_DBUS_ACTIVATABLE);
 }
 
 bool hasOwnDirectory(GDesktopAppInfo *app)
@@ -57,9 +44,15 @@ bool launch(GAppInfo *app, const OpenTargetList &targets, const LaunchContext &c
     QByteArray directory = context.workingDirectory;
     const bool choosesDirectory = !directory.isEmpty() && !hasOwnDirectory(started);
     GErrorGuard error("cannot start the application");
-    const bool done = g_desktop_app_info_launch_uris_as_manager(
-        started, uris, launchContext(context).get(), G_SPAWN_SEARCH_PATH, choosesDirectory ? enterDirectory : nullptr,
-        directory.data(), nullptr, nullptr, &error);
+    const bool overTheBus = startsOverTheBus(started);
+    const std::unique_ptr<GDBusConnection, GObjectUnref> bus(
+        overTheBus ? g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr) : nullptr);
+    const GLaunchContextPtr passed = bus ? forCall(context) : forProcess(context);
+    const bool done = g_desktop_app_info_launch_uris_as_manager(started, uris, passed.get(), G_SPAWN_SEARCH_PATH,
+                                                                choosesDirectory ? enterDirectory : nullptr,
+                                                                directory.data(), nullptr, nullptr, &error);
+    if (bus)
+        g_dbus_connection_flush_sync(bus.get(), nullptr, nullptr); // the tool ends right after it
     g_list_free(uris);
     return done;
 }
