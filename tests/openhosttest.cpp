@@ -194,9 +194,15 @@ void OpenHostTest::expandsCommands()
     makeDefault(painter, "image/png");
     QCOMPARE(runTool(m_tree, {"a b.png", "c.png"}), 0);
     const QByteArray directory = keys.contains("Path=/") ? QByteArray("/") : m_tree.bytes();
-    const QByteArray expected = directory + "\ntool-id,\n" + arguments.replace("DIR", m_tree.bytes());
+    const QByteArray head = directory + "\ntool-id,\n";
+    const QByteArray expected = head + arguments.replace("DIR", m_tree.bytes());
+    const auto starts = [&head](const QByteArray &text) { // two processes may come in either order
+        QStringList list = QString::fromUtf8(text).split(QString::fromUtf8(head));
+        list.sort();
+        return list;
+    };
     QTRY_COMPARE(painter.starts().count('\n'), expected.count('\n'));
-    QCOMPARE(painter.takeStart(), expected);
+    QCOMPARE(starts(painter.takeStart()), starts(expected));
     QFile::remove(painter.desktopFile());
 }
 
