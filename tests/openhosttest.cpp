@@ -93,8 +93,12 @@ private Q_SLOTS:
 
 private:
     TestTree m_tree;
+    // Made before the service starts, which hears of new ones a moment later only.
     TestApplication m_viewer{&m_tree, "viewer"};
     TestApplication m_editor{&m_tree, "editor", "Exec=@ --as \"two words\" %F\nMimeType=text/plain;test/declared;\n"};
+    TestApplication m_pager{&m_tree, "pager", "Exec=@ \"two words\" %k 5%% %F\nTerminal=true\n"};
+    TestApplication m_player{&m_tree, "org.test.Player", "Exec=@ %F\nDBusActivatable=true\nStartupNotify=true\n"};
+    TestApplication m_follower{&m_tree, "follower", "Exec=@ %U\nMimeType=x-scheme-handler/test;\n"};
 };
 
 void OpenHostTest::keepsAssociationsOverARestart()
@@ -209,13 +213,12 @@ void OpenHostTest::expandsCommands()
 void OpenHostTest::startsTerminalProgramsInATerminal()
 {
     TestApplication::addProgram(&m_tree, "bin/xterm");
-    TestApplication pager(&m_tree, "pager", "Exec=@ \"two words\" %k 5%% %F\nTerminal=true\n");
-    makeDefault(pager, "application/json");
+    makeDefault(m_pager, "application/json");
     m_tree.add("data.json", "{}");
     QCOMPARE(runTool(m_tree, {"data.json"}), 0);
     QTRY_COMPARE(TestApplication::starts(m_tree, "bin/xterm"),
                  m_tree.bytes() + "\ntool-id,\n<-e>\n<" + m_tree.bytes("pager") + ">\n<two words>\n<"
-                     + pager.desktopFile().toUtf8() + ">\n<5%>\n<" + m_tree.bytes("data.json") + ">\n");
+                     + m_pager.desktopFile().toUtf8() + ">\n<5%>\n<" + m_tree.bytes("data.json") + ">\n");
 }
 
 void OpenHostTest::startsApplicationsOverTheBus()
@@ -224,8 +227,7 @@ void OpenHostTest::startsApplicationsOverTheBus()
     QDBusConnection bus = QDBusConnection::sessionBus();
     QVERIFY(bus.registerObject("/org/test/Player", &application, QDBusConnection::ExportAllSlots));
     QVERIFY(bus.registerService("org.test.Player"));
-    const TestApplication player(&m_tree, "org.test.Player", "Exec=@ %F\nDBusActivatable=true\nStartupNotify=true\n");
-    makeDefault(player, "audio/mpeg");
+    makeDefault(m_player, "audio/mpeg");
     const Entry song = m_tree.add("song.mp3");
     QSignalSpy opened(&application, &BusApplication::opened);
     Open::ptr()->open(EntryList(song), {{"xdg-activation-token", "token"}});
@@ -252,7 +254,6 @@ void OpenHostTest::followsLinks()
 {
     QFETCH(QByteArray, address);
     QFETCH(QByteArray, argument);
-    TestApplication follower(&m_tree, "follower", "Exec=@ %U\nMimeType=x-scheme-handler/test;\n");
     makeDefault(m_editor, "application/x-desktop");
     m_tree.add("link target.txt", "text");
     m_tree.add("shortcut.desktop", "[Desktop Entry]\nType=Link\nURL=" + address.replace("DIR", m_tree.bytes()) + '\n');
@@ -260,7 +261,7 @@ void OpenHostTest::followsLinks()
     if (argument.isEmpty())
         return;
     QCOMPARE(runTool(m_tree, {"-e", "shortcut.desktop"}), 0);
-    TestApplication &opener = address.startsWith("test:") ? follower : m_editor;
+    TestApplication &opener = address.startsWith("test:") ? m_follower : m_editor;
     QVERIFY(opener.takeStart().endsWith('<' + argument.replace("DIR", m_tree.bytes()) + ">\n"));
 }
 

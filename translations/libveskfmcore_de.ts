@@ -2,6 +2,76 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de">
 <context>
+    <name>ApplicationDialog</name>
+    <message>
+        <source>Always open this type with it</source>
+        <translation>Diesen Typ immer damit öffnen</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Anwendungen</translation>
+    </message>
+    <message>
+        <source>Open With</source>
+        <translation>Öffnen mit</translation>
+    </message>
+    <message>
+        <source>or a command line</source>
+        <translation>oder eine Befehlszeile</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n Datei</numerusform>
+            <numerusform>%n Dateien</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open:</source>
+        <translation>Öffnen:</translation>
+    </message>
+    <message>
+        <source>Type:</source>
+        <translation>Typ:</translation>
+    </message>
+    <message>
+        <source>Choose a program</source>
+        <translation>Programm auswählen</translation>
+    </message>
+    <message>
+        <source>Set as Default</source>
+        <translation>Als Standard festlegen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>For this type</source>
+        <translation>Für diesen Typ</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Andere</translation>
+    </message>
+    <message>
+        <source>Choose an application, or type a command line.</source>
+        <translation>Wählen Sie eine Anwendung oder geben Sie eine Befehlszeile ein.</translation>
+    </message>
+    <message>
+        <source>A type is written like &quot;text/plain&quot;.</source>
+        <translation>Ein Typ wird wie &quot;text/plain&quot; geschrieben.</translation>
+    </message>
+    <message>
+        <source>There is no such program.</source>
+        <translation>Dieses Programm gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be started.</source>
+        <translation>%1 kann nicht gestartet werden.</translation>
+    </message>
+</context>
+<context>
     <name>CorePaths</name>
     <message>
         <source>copy</source>

@@ -2,6 +2,77 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru">
 <context>
+    <name>ApplicationDialog</name>
+    <message>
+        <source>Always open this type with it</source>
+        <translation>Всегда открывать этот тип этим приложением</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Приложения</translation>
+    </message>
+    <message>
+        <source>Open With</source>
+        <translation>Открыть с помощью</translation>
+    </message>
+    <message>
+        <source>or a command line</source>
+        <translation>или командная строка</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation>
+            <numerusform>%n файл</numerusform>
+            <numerusform>%n файла</numerusform>
+            <numerusform>%n файлов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open:</source>
+        <translation>Открыть:</translation>
+    </message>
+    <message>
+        <source>Type:</source>
+        <translation>Тип:</translation>
+    </message>
+    <message>
+        <source>Choose a program</source>
+        <translation>Выбор программы</translation>
+    </message>
+    <message>
+        <source>Set as Default</source>
+        <translation>Сделать по умолчанию</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>For this type</source>
+        <translation>Для этого типа</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Другие</translation>
+    </message>
+    <message>
+        <source>Choose an application, or type a command line.</source>
+        <translation>Выберите приложение или введите командную строку.</translation>
+    </message>
+    <message>
+        <source>A type is written like &quot;text/plain&quot;.</source>
+        <translation>Тип записывается в виде &quot;text/plain&quot;.</translation>
+    </message>
+    <message>
+        <source>There is no such program.</source>
+        <translation>Такой программы нет.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be started.</source>
+        <translation>Не удалось запустить %1.</translation>
+    </message>
+</context>
+<context>
     <name>CorePaths</name>
     <message>
         <source>copy</source>

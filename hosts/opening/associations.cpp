@@ -7,6 +7,7 @@
 #include "declaredtypes.h"
 
 #include <QDir>
+#include <QFile>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -48,10 +49,13 @@ GAppPtr takenIf(GAppList &apps, const std::function<bool(GAppInfo *)> &matches)
     return nullptr;
 }
 
-GAppPtr registeredFile(GAppList &known, const QString &path)
+GAppPtr registeredFile(GAppList &known, const AppInfo &info)
 {
-    const QString file = QDir::cleanPath(path);
-    return takenIf(known, [&file](GAppInfo *app) { return desktopFile(app) == file; });
+    const QString file = QDir::cleanPath(info.desktopSourceFilePath());
+    GAppPtr app = takenIf(known, [&file](GAppInfo *other) { return desktopFile(other) == file; });
+    if (!app && info.isFromStandardDirs()) // GIO may not have heard yet of a new one
+        app.reset(G_APP_INFO(g_desktop_app_info_new_from_filename(QFile::encodeName(file).constData())));
+    return app;
 }
 
 GAppPtr registeredCommand(GAppList &known, const QString &command)
@@ -87,9 +91,9 @@ GAppPtr Associations::find(const AppInfo &app)
 {
     GAppList known = taken(g_app_info_get_all());
     const QString file = app.desktopSourceFilePath();
-    GAppPtr found = registeredFile(known, file);
+    GAppPtr found = registeredFile(known, app);
     if (!found && !file.isEmpty()) // a copy, as on the desktop
-        found = registeredFile(known, AppInfo::appInfoForOriginFile(file).desktopSourceFilePath());
+        found = registeredFile(known, AppInfo::appInfoForOriginFile(file));
     if (found)
         return found;
     // mimeapps.list can name registered entries only: of another one the command gets an entry of its own.
