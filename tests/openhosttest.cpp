@@ -11,6 +11,7 @@
 #include <QDBusConnection>
 #include <QtTest>
 
+#include <algorithm>
 #include <csignal>
 
 using namespace VeskFM;
