@@ -11,7 +11,6 @@
 #include <QDBusConnection>
 #include <QtTest>
 
-#include <algorithm>
 #include <csignal>
 
 using namespace VeskFM;
