@@ -47,10 +47,12 @@ public:
     /// Thread: a worker.
     virtual QString textDigest(const EntryList &entries, bool *running);
 
-    virtual bool hasFindWidget();                                  ///< default: false
-    virtual bool hasPropsWidgetFor(const EntryList &entries);      ///< default: false
-    virtual QList<QWidget *> createFindWidgets(QWidget *parent);   ///< children of @p parent; default: none
-    virtual QList<QWidget *> createFilterWidgets(QWidget *parent); ///< children of @p parent; default: none
+    virtual bool hasFindWidget();                             ///< default: false
+    virtual bool hasPropsWidgetFor(const EntryList &entries); ///< default: false
+    /// Further questions of the find dialog, EntryMatchWidgets: children of @p parent; default: none.
+    virtual QList<QWidget *> createFindWidgets(QWidget *parent);
+    /// Further questions of the filter bar, EntryMatchWidgets: children of @p parent; default: none.
+    virtual QList<QWidget *> createFilterWidgets(QWidget *parent);
     /// A page for @p entries, child of @p parent. Default: null.
     virtual PropsPluginWidget *createPropsWidget(const EntryList &entries, QWidget *parent);
 

@@ -3,10 +3,13 @@
 
 #include "fileinfoplugin.h"
 
+#include "contentwidget.h"
 #include "diskpath.h"
 #include "fileinfopropertyset.h"
+#include "modifiedwidget.h"
 #include "permissionspage.h"
 #include "selectionsize.h"
+#include "sizerangewidget.h"
 
 #include <veskfm/core.h>
 
@@ -65,6 +68,21 @@ bool FileInfoPlugin::hasPropsWidgetFor(const EntryList &entries)
 PropsPluginWidget *FileInfoPlugin::createPropsWidget(const EntryList &entries, QWidget *parent)
 {
     return hasPropsWidgetFor(entries) ? new PermissionsPage(entries, parent) : nullptr;
+}
+
+bool FileInfoPlugin::hasFindWidget()
+{
+    return true;
+}
+
+QList<QWidget *> FileInfoPlugin::createFindWidgets(QWidget *parent)
+{
+    return {new ContentWidget(parent), new SizeRangeWidget(false, parent), new ModifiedWidget(parent)};
+}
+
+QList<QWidget *> FileInfoPlugin::createFilterWidgets(QWidget *parent)
+{
+    return {new SizeRangeWidget(true, parent)};
 }
 
 int FileInfoPlugin::propertySetSize() const

@@ -8,8 +8,8 @@
 namespace VeskFM
 {
 
-/// The usual facts about files: the columns of FileInfoPropertySet, the total size of a selection, and a page for the
-/// permissions.
+/// The usual facts about files: the columns of FileInfoPropertySet, the total size of a selection, a page for the
+/// permissions, and what to find and filter files by.
 class FileInfoPlugin : public QObject,
                        public PropsPlugin
 {
@@ -29,6 +29,10 @@ public:
 
     bool hasPropsWidgetFor(const EntryList &entries) override;
     PropsPluginWidget *createPropsWidget(const EntryList &entries, QWidget *parent) override;
+
+    bool hasFindWidget() override;
+    QList<QWidget *> createFindWidgets(QWidget *parent) override;   ///< text in files, size, time of the last change
+    QList<QWidget *> createFilterWidgets(QWidget *parent) override; ///< size
 
     int propertySetSize() const override;
     QVariant propertyHeaderData(int index, int role) override;

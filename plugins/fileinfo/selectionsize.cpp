@@ -4,12 +4,11 @@
 #include "selectionsize.h"
 
 #include "diskpath.h"
+#include "kernelfilesystem.h"
 
 #include <cstring>
 
 #include <fcntl.h>
-#include <linux/magic.h>
-#include <sys/vfs.h>
 #include <unistd.h>
 
 namespace VeskFM
@@ -17,15 +16,6 @@ namespace VeskFM
 
 namespace
 {
-
-/// Whether the directory is in a file system whose "files" take no room and may pretend to be terabytes.
-bool isKernelFileSystem(int descriptor)
-{
-    struct statfs system = {};
-    if (fstatfs(descriptor, &system) != 0)
-        return false;
-    return system.f_type == PROC_SUPER_MAGIC || system.f_type == SYSFS_MAGIC;
-}
 
 bool isDotOrDotDot(const char *name)
 {
@@ -97,7 +87,7 @@ void SelectionSize::enter(int parent, const char *name)
     const bool isReadable = fstat(descriptor, &found) == 0;
     const bool isSameSystem = !m_open.empty() && m_open.back().device == found.st_dev;
     DIR *stream = nullptr;
-    if (isReadable && (isSameSystem || !isKernelFileSystem(descriptor)) && count(found, false))
+    if (isReadable && (isSameSystem || !isInKernelFileSystem(descriptor)) && count(found, false))
         stream = fdopendir(descriptor);
     if (stream)
         m_open.push_back({std::unique_ptr<DIR, CloseDirectory>(stream), found.st_dev});
