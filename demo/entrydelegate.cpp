@@ -24,6 +24,8 @@ QString EntryDelegate::displayText(const QVariant &value, const QLocale &locale)
 
 QSize EntryDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
 {
+    if (m_cellSize.isValid())
+        return m_cellSize;
     const int content = std::max(option.decorationSize.height(), option.fontMetrics.height());
     return {option.decorationSize.width(), content + 2 * rowPadding};
 }
@@ -31,6 +33,11 @@ QSize EntryDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIn
 void EntryDelegate::setRightAlignedColumn(int column)
 {
     m_rightAlignedColumn = column;
+}
+
+void EntryDelegate::setCellSize(const QSize &size)
+{
+    m_cellSize = size;
 }
 
 void EntryDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const

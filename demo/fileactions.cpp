@@ -3,9 +3,11 @@
 
 #include "fileactions.h"
 
-#include "directoryview.h"
+#include "containers.h"
 #include "inplaceeditor.h"
+#include "kiosk.h"
 #include "newentry.h"
+#include "pane.h"
 #include "printabletext.h"
 
 #include <veskfm/clipboard.h>
@@ -15,6 +17,7 @@
 #include <veskfm/trash.h>
 #include <veskplatform/vfs.h>
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QClipboard>
 #include <QItemSelectionModel>
@@ -23,6 +26,7 @@
 #include <QMessageBox>
 #include <QMimeDatabase>
 
+#include <algorithm>
 #include <utility>
 
 using namespace VeskFM;
@@ -37,76 +41,133 @@ QString itemCount(int count)
 
 } // namespace
 
-FileActions::FileActions(Model *model, DirectoryView *view, QObject *parent)
-    : QObject(parent)
-    , m_model(model)
-    , m_view(view)
+FileActions::FileActions(QWidget *window)
+    : QObject(window)
+    , m_window(window)
 {
-    m_onSelection = {
-        add(tr("Open With …"), QStringLiteral("system-run"), {Qt::CTRL + Qt::Key_Return}, &FileActions::openWith)};
-    addSeparator();
-    m_onSelection += add(tr("Copy"), QStringLiteral("edit-copy"), {QKeySequence::Copy}, &FileActions::copy);
-    m_onSelection += add(tr("Cut"), QStringLiteral("edit-cut"), {QKeySequence::Cut}, &FileActions::cut);
-    m_paste = add(tr("Paste"), QStringLiteral("edit-paste"), {QKeySequence::Paste}, &FileActions::paste);
-    addSeparator();
-    m_rename = add(tr("Rename"), QStringLiteral("edit-rename"), {Qt::Key_F2}, &FileActions::rename);
-    m_onSelection +=
-        add(tr("Move to Trash"), QStringLiteral("user-trash"), {QKeySequence::Delete}, &FileActions::trash);
-    m_restore = add(tr("Restore"), QStringLiteral("edit-undo"), {}, &FileActions::restore);
-    m_onSelection +=
-        add(tr("Delete"), QStringLiteral("edit-delete"), {Qt::SHIFT + Qt::Key_Delete}, &FileActions::remove);
-    addSeparator();
-    add(tr("New Folder"), QStringLiteral("folder-new"), {Qt::CTRL + Qt::SHIFT + Qt::Key_N}, &FileActions::makeFolder);
-    m_templates = new QMenu(tr("New File"), view);
-    m_templates->setIcon(QIcon::fromTheme(QStringLiteral("document-new")));
-    view->addAction(m_templates->menuAction());
-    connect(m_templates, &QMenu::aboutToShow, this, &FileActions::fillTemplates);
-
-    view->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(view, &QWidget::customContextMenuRequested, this, &FileActions::showMenu);
-    connect(view, &DirectoryView::selectedRowsChanged, this, &FileActions::enableActions);
-    connect(view, &DirectoryView::entriesDropped, this, &FileActions::drop);
+    createFileMenu();
+    createEditMenu();
     connect(Clipboard::clipboard(), &QClipboard::dataChanged, this, &FileActions::enableActions);
-    connect(model, &QAbstractItemModel::rowsInserted, this, &FileActions::showAwaited);
     connect(&m_operations, &OperationTracker::progress, this, [this](const QString &text) { message(text, true); });
     connect(&m_operations, &OperationTracker::finished, this, [this](const QString &text) { message(text, false); });
     connect(&m_operations, &OperationTracker::made, this, &FileActions::showMade);
-    enableActions();
 }
 
-QAction *FileActions::add(const QString &text, const QString &iconName, const QList<QKeySequence> &keys,
-                          void (FileActions::*slot)())
+void FileActions::createFileMenu()
 {
-    auto *const action = new QAction(QIcon::fromTheme(iconName), text, m_view);
-    action->setShortcuts(keys);
-    action->setShortcutContext(Qt::WidgetShortcut); // the path bar has copy and paste of its own
+    QList<QAction *> *const menu = &m_fileMenu;
+    m_onSelection = {add(menu, "open", tr("Open"), QStringLiteral("document-open"), {}, &FileActions::openSelection),
+                     add(menu, "openWith", tr("Open With…"), QStringLiteral("system-run"), {Qt::CTRL + Qt::Key_Return},
+                         &FileActions::openWith)};
+    m_onSelection.last()->setVisible(!Kiosk::isOn());
+    addSeparator(menu);
+    m_onWritable = {add(menu, "newFolder", tr("New Folder"), QStringLiteral("folder-new"),
+                        {Qt::CTRL + Qt::SHIFT + Qt::Key_N}, &FileActions::makeFolder)};
+    m_templates = new QMenu(tr("New File"), m_window);
+    m_templates->setObjectName(QStringLiteral("newFileMenu"));
+    m_templates->setIcon(QIcon::fromTheme(QStringLiteral("document-new")));
+    menu->append(m_templates->menuAction());
+    m_onWritable += m_templates->menuAction();
+    connect(m_templates, &QMenu::aboutToShow, this, &FileActions::fillTemplates);
+    addSeparator(menu);
+    m_rename = add(menu, "rename", tr("Rename"), QStringLiteral("edit-rename"), {Qt::Key_F2}, &FileActions::rename);
+    m_onChange += add(menu, "trash", tr("Move to Trash"), QStringLiteral("user-trash"), {QKeySequence::Delete},
+                      &FileActions::trash);
+    m_restore = add(menu, "restore", tr("Restore"), QStringLiteral("edit-undo"), {}, &FileActions::restore);
+    m_onChange += add(menu, "delete", tr("Delete"), QStringLiteral("edit-delete"), {Qt::SHIFT + Qt::Key_Delete},
+                      &FileActions::remove);
+}
+
+void FileActions::createEditMenu()
+{
+    QList<QAction *> *const menu = &m_editMenu;
+    m_onChange += add(menu, "cut", tr("Cut"), QStringLiteral("edit-cut"), {QKeySequence::Cut}, &FileActions::cut);
+    m_onSelection +=
+        add(menu, "copy", tr("Copy"), QStringLiteral("edit-copy"), {QKeySequence::Copy}, &FileActions::copy);
+    m_paste = add(menu, "paste", tr("Paste"), QStringLiteral("edit-paste"), {QKeySequence::Paste}, &FileActions::paste);
+    addSeparator(menu);
+    m_copyToOther = add(menu, "copyToOther", tr("Copy to Other Pane"), QStringLiteral("edit-copy"), {Qt::Key_F5},
+                        &FileActions::copyToOther);
+    m_moveToOther = add(menu, "moveToOther", tr("Move to Other Pane"), QStringLiteral("go-jump"), {Qt::Key_F6},
+                        &FileActions::moveToOther);
+}
+
+QAction *FileActions::add(QList<QAction *> *menu, const char *name, const QString &text, const QString &iconName,
+                          const QList<QKeySequence> &keys, void (FileActions::*slot)())
+{
+    auto *const action = new QAction(QIcon::fromTheme(iconName), text, m_window);
+    action->setObjectName(QString::fromLatin1(name));
+    action->setShortcuts(keys); // a line that is being edited takes those for text first
     connect(action, &QAction::triggered, this, slot);
-    m_view->addAction(action);
+    menu->append(action);
     return action;
 }
 
-void FileActions::addSeparator()
+void FileActions::addSeparator(QList<QAction *> *menu)
 {
-    auto *const separator = new QAction(m_view);
+    auto *const separator = new QAction(m_window);
     separator->setSeparator(true);
-    m_view->addAction(separator);
+    menu->append(separator);
+}
+
+void FileActions::setPanes(Pane *active, Pane *other)
+{
+    m_pane = active;
+    m_other = other;
+    enableActions();
+}
+
+void FileActions::listenTo(Pane *pane)
+{
+    const auto enable = [this, pane] {
+        if (pane == m_pane || pane == m_other)
+            enableActions();
+    };
+    connect(pane->views(), &EntryViews::selectionChanged, this, enable);
+    connect(pane, &Pane::directoryChanged, this, enable);
+    connect(pane, &Pane::fileActivated, this, [this](const Entry &file) { open(EntryList{file}, false); });
+    connect(pane->views(), &EntryViews::entriesDropped, this,
+            [this](const EntryList &entries, const Entry &target, Qt::DropAction action) {
+                transfer(entries, target, action == Qt::MoveAction);
+            });
+    connect(pane->model(), &QAbstractItemModel::rowsInserted, this, &FileActions::showAwaited);
 }
 
 void FileActions::enableActions()
 {
-    const QItemSelection selected = m_view->selectionModel()->selection(); // its rows may be many: they stay unlisted
+    if (!m_pane)
+        return;
+    const QItemSelection selected = m_pane->views()->selectionModel()->selection(); // of many rows: they stay unlisted
+    const bool any = !selected.isEmpty();
+    const bool writable = m_pane->isWritable();
     for (QAction *action : qAsConst(m_onSelection))
-        action->setEnabled(!selected.isEmpty());
-    m_rename->setEnabled(selected.size() == 1 && selected.first().height() == 1);
-    m_restore->setEnabled(!selected.isEmpty()
-                          && Trash::ptr()->hasEntries(EntryList{m_model->entryByIndex(selected.first().topLeft())}));
+        action->setEnabled(any);
+    for (QAction *action : qAsConst(m_onChange))
+        action->setEnabled(any && writable);
+    for (QAction *action : qAsConst(m_onWritable))
+        action->setEnabled(writable);
+    m_rename->setEnabled(writable && selected.size() == 1 && selected.first().height() == 1);
+    const Entry first = any ? m_pane->model()->entryByIndex(selected.first().topLeft()) : Entry();
+    m_restore->setEnabled(any && Trash::ptr()->hasEntries(EntryList{first}));
+    m_restore->setVisible(m_restore->isEnabled());
+    m_copyToOther->setEnabled(any && m_other && m_other->isWritable());
+    m_moveToOther->setEnabled(m_copyToOther->isEnabled() && writable);
     const Clipboard *const clipboard = Clipboard::ptr();
-    m_paste->setEnabled(!clipboard->actualMimeTypes(Clipboard::clipboardMimeData(Clipboard::clipboard())).isEmpty());
+    m_paste->setEnabled(writable
+                        && !clipboard->actualMimeTypes(Clipboard::clipboardMimeData(Clipboard::clipboard())).isEmpty());
 }
 
-void FileActions::showMenu(const QPoint &position)
+void FileActions::showMenu(const QPoint &globalPosition, const QList<QAction *> &last)
 {
-    QMenu::exec(m_view->actions(), m_view->viewport()->mapToGlobal(position), nullptr, m_view);
+    QMenu menu(m_window);
+    menu.setObjectName(QStringLiteral("contextMenu"));
+    menu.addActions(m_fileMenu.mid(0, 2));
+    menu.addSeparator();
+    menu.addActions(m_editMenu);
+    menu.addActions(m_fileMenu.mid(2));
+    menu.addSeparator();
+    menu.addActions(last);
+    menu.exec(globalPosition);
 }
 
 void FileActions::fillTemplates()
@@ -126,17 +187,21 @@ void FileActions::fillTemplates()
 
 EntryList FileActions::selection() const
 {
-    return m_model->indexesToEntries(m_view->selectionModel()->selectedRows());
+    return m_pane->views()->selectedEntries();
 }
 
 Entry FileActions::freeEntry(const QString &baseName, const QString &suffix) const
 {
-    const Entry directory = m_model->actualRootEntry();
+    const Entry directory = m_pane->directory();
     return newEntry(directory, uniqueFileName(directory.localPath(), baseName, suffix));
 }
 
 void FileActions::open(const EntryList &entries, bool chooseApplication)
 {
+    if (std::any_of(entries.cbegin(), entries.cend(), [](const Entry &entry) { return !Kiosk::mayOpen(entry); })) {
+        Q_EMIT message(tr("Only applications of the kiosk are started here"), false);
+        return;
+    }
     Open *const opener = Open::ptr();
     m_openerSeen = m_openerSeen || opener->isAvailable(); // one that has died since is started again
     if (!m_openerSeen) {
@@ -145,8 +210,17 @@ void FileActions::open(const EntryList &entries, bool chooseApplication)
     }
     opener->open(entries,
                  {{QStringLiteral("dialog"), chooseApplication},
-                  {QStringLiteral("workingDir"), m_model->actualRootEntry().localPath()}});
+                  {QStringLiteral("workingDir"), m_pane->directory().localPath()}});
     Q_EMIT message(tr("Opening %1").arg(printableText(entries.first().fileName())), false);
+}
+
+void FileActions::openSelection()
+{
+    const EntryList entries = selection();
+    if (entries.size() == 1 && canBeShown(entries.first()))
+        m_pane->openDirectory(entries.first());
+    else if (!entries.isEmpty())
+        open(entries, false);
 }
 
 void FileActions::openWith()
@@ -168,16 +242,21 @@ void FileActions::paste()
 {
     const EntryList cutEntries = Clipboard::ptr()->entries(Clipboard::Cut);
     if (cutEntries.isEmpty()) {
-        transfer(Clipboard::ptr()->entries(Clipboard::Copy), m_model->actualRootEntry(), false);
+        transfer(Clipboard::ptr()->entries(Clipboard::Copy), m_pane->directory(), false);
         return;
     }
-    transfer(cutEntries, m_model->actualRootEntry(), true);
+    transfer(cutEntries, m_pane->directory(), true);
     Clipboard::clear(); // they are not where it says any more
 }
 
-void FileActions::drop(const EntryList &entries, const Entry &target, Qt::DropAction action)
+void FileActions::copyToOther()
 {
-    transfer(entries, target, action == Qt::MoveAction);
+    transfer(selection(), m_other->directory(), false);
+}
+
+void FileActions::moveToOther()
+{
+    transfer(selection(), m_other->directory(), true);
 }
 
 void FileActions::transfer(const EntryList &entries, const Entry &target, bool move)
@@ -210,23 +289,25 @@ void FileActions::remove()
     if (entries.isEmpty() || !m_operations.isAvailable())
         return;
     const QString question = tr("Delete %1 for good? This cannot be undone.").arg(itemCount(entries.size()));
-    if (QMessageBox::question(m_view, tr("Delete"), question) == QMessageBox::Yes)
+    if (QMessageBox::question(m_window, tr("Delete"), question) == QMessageBox::Yes)
         m_operations.follow(FOps::ptr()->remove(entries, false), tr("Deleting %1").arg(itemCount(entries.size())));
 }
 
 void FileActions::rename()
 {
-    const QModelIndex index = m_view->currentIndex().siblingAtColumn(0);
-    if (!index.isValid() || !m_model->flags(index).testFlag(Qt::ItemIsSelectable)) // the ".." row
+    EntryViews *const views = m_pane->views();
+    const QModelIndex index = views->selectionModel()->currentIndex().siblingAtColumn(0);
+    if (!index.isValid() || !m_pane->model()->flags(index).testFlag(Qt::ItemIsSelectable)) // the ".." row
         return;
-    const Entry entry = m_model->entryByIndex(index);
-    auto *const editor = new InPlaceEditor(m_view, index, entry.fileName());
+    const Entry entry = m_pane->model()->entryByIndex(index);
+    views->view()->scrollTo(index);
+    auto *const editor = new InPlaceEditor(views->view(), views->nameRect(index), entry.fileName());
     connect(editor, &InPlaceEditor::accepted, this, [this, entry](const QString &name) {
         const Entry target = newEntry(VFS::ptr()->parent(entry), name);
         if (name.contains(QLatin1Char('/')) || name == QLatin1String(".") || name == QLatin1String("..")) {
             Q_EMIT message(tr("A name cannot be “%1”").arg(printableText(name)), false);
         } else if (m_operations.isAvailable()) {
-            m_awaited = target;
+            await(target, false);
             m_operations.follow(FOps::ptr()->rename(entry, target), tr("Renaming"));
         }
     });
@@ -236,8 +317,7 @@ void FileActions::makeFolder()
 {
     if (!m_operations.isAvailable())
         return;
-    m_awaited = freeEntry(tr("New folder"), QString());
-    m_renamesAwaited = true;
+    await(freeEntry(tr("New folder"), QString()), true);
     m_operations.follow(FOps::ptr()->makeDir(m_awaited), tr("New folder"));
 }
 
@@ -246,26 +326,32 @@ void FileActions::makeFile(const QString &templatePath, const QString &name)
     if (!m_operations.isAvailable())
         return;
     const QString suffix = QMimeDatabase().suffixForFileName(name);
-    m_awaited = freeEntry(suffix.isEmpty() ? name : name.left(name.size() - suffix.size() - 1), suffix);
-    m_renamesAwaited = true;
+    await(freeEntry(suffix.isEmpty() ? name : name.left(name.size() - suffix.size() - 1), suffix), true);
     m_operations.follow(templatePath.isEmpty() ? FOps::ptr()->makeFile(m_awaited)
                                                : FOps::ptr()->makeFromTemplate(m_awaited, templatePath),
                         tr("New file"));
+}
+
+void FileActions::await(const Entry &entry, bool renames)
+{
+    m_awaitingPane = m_pane;
+    m_awaited = entry;
+    m_renamesAwaited = renames;
 }
 
 // The row may come before the result, or after it.
 void FileActions::showMade(const EntryList &entries, FOps::OperationType type)
 {
     if (m_awaited.isNull() && !entries.isEmpty() && type != FOps::Trash)
-        m_awaited = entries.first();
+        await(entries.first(), false);
     showAwaited();
 }
 
 void FileActions::showAwaited()
 {
-    if (m_awaited.isNull() || !m_model->indexOfEntry(m_awaited).isValid())
+    if (m_awaited.isNull() || !m_awaitingPane || !m_awaitingPane->model()->indexOfEntry(m_awaited).isValid())
         return;
-    m_view->showEntry(std::exchange(m_awaited, {}));
-    if (std::exchange(m_renamesAwaited, false))
+    m_awaitingPane->views()->showEntry(std::exchange(m_awaited, {}));
+    if (std::exchange(m_renamesAwaited, false) && m_awaitingPane == m_pane)
         QMetaObject::invokeMethod(this, &FileActions::rename, Qt::QueuedConnection); // once the view has its new row
 }

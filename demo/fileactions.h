@@ -9,67 +9,84 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 
-class DirectoryView;
+class Pane;
 class QAction;
 class QKeySequence;
 class QMenu;
 class QPoint;
+class QWidget;
 
-namespace VeskFM
-{
-class Model;
-}
-
-/// What can be done with the shown directory and the selected rows: the actions with their keys, the menu of the view,
-/// drops, and new names in place. The work is done by the services on the session bus.
+/// What can be done with the directory of a pane and its selected rows: the actions with their keys, drops, and new
+/// names in place. The work is done by the services on the session bus.
 class FileActions : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Gives @p view its actions and its menu. Both are borrowed.
-    FileActions(VeskFM::Model *model, DirectoryView *view, QObject *parent = nullptr);
+    explicit FileActions(QWidget *window); ///< becomes a child of @p window, as the actions do
+
+    /// The actions are for @p active from now on; @p other is where "the other pane" is, null for none.
+    void setPanes(Pane *active, Pane *other);
+    void listenTo(Pane *pane); ///< to what is dropped on it and activated in it
+
+    QList<QAction *> fileMenu() const { return m_fileMenu; }
+    QList<QAction *> editMenu() const { return m_editMenu; }
+    /// @param last  actions that come behind ours
+    void showMenu(const QPoint &globalPosition, const QList<QAction *> &last);
 
     void open(const VeskFM::EntryList &entries, bool chooseApplication);
+    void transfer(const VeskFM::EntryList &entries, const VeskFM::Entry &target, bool move);
 
 Q_SIGNALS:
     void message(const QString &text, bool lasting);
 
 private:
-    QAction *add(const QString &text, const QString &iconName, const QList<QKeySequence> &keys,
-                 void (FileActions::*slot)());
-    void addSeparator();
+    QAction *add(QList<QAction *> *menu, const char *name, const QString &text, const QString &iconName,
+                 const QList<QKeySequence> &keys, void (FileActions::*slot)());
+    void addSeparator(QList<QAction *> *menu);
+    void createFileMenu();
+    void createEditMenu();
     void enableActions();
-    void showMenu(const QPoint &position);
     void fillTemplates();
 
+    void openSelection();
     void openWith();
     void copy();
     void cut();
     void paste();
+    void copyToOther();
+    void moveToOther();
     void rename();
     void trash();
     void restore();
     void remove();
     void makeFolder();
     void makeFile(const QString &templatePath, const QString &name);
-    void drop(const VeskFM::EntryList &entries, const VeskFM::Entry &target, Qt::DropAction action);
-    void transfer(const VeskFM::EntryList &entries, const VeskFM::Entry &target, bool move);
+    void await(const VeskFM::Entry &entry, bool renames);
     void showMade(const VeskFM::EntryList &entries, VeskFM::FOps::OperationType type);
     void showAwaited();
 
     VeskFM::EntryList selection() const;
     VeskFM::Entry freeEntry(const QString &baseName, const QString &suffix) const;
 
-    VeskFM::Model *m_model; // borrowed
-    DirectoryView *m_view;  // borrowed
+    QWidget *m_window;       // these three borrowed
+    Pane *m_pane = nullptr;  // the active one
+    Pane *m_other = nullptr; // may be null
     OperationTracker m_operations;
+    QList<QAction *> m_fileMenu;
+    QList<QAction *> m_editMenu;
     QList<QAction *> m_onSelection; // make sense with selected rows only
+    QList<QAction *> m_onChange;    // and where something can be changed
+    QList<QAction *> m_onWritable;  // need no selection
     QAction *m_rename = nullptr;
     QAction *m_restore = nullptr;
     QAction *m_paste = nullptr;
+    QAction *m_copyToOther = nullptr;
+    QAction *m_moveToOther = nullptr;
     QMenu *m_templates = nullptr;
+    QPointer<Pane> m_awaitingPane;
     VeskFM::Entry m_awaited;       // just made; gets the cursor when its row arrives
     bool m_renamesAwaited = false; // and a name
     bool m_openerSeen = false;     // the service that opens was there once

@@ -7,15 +7,13 @@
 #include <QKeyEvent>
 #include <QMimeDatabase>
 
-InPlaceEditor::InPlaceEditor(QAbstractItemView *view, const QModelIndex &index, const QString &name)
+InPlaceEditor::InPlaceEditor(QAbstractItemView *view, const QRect &place, const QString &name)
     : QLineEdit(name, view->viewport())
     , m_former(name)
 {
-    QRect place = view->visualRect(index);
-    place.setLeft(place.left() + view->iconSize().width() + 4);
-    place.setTop(place.center().y() - sizeHint().height() / 2);
-    place.setHeight(sizeHint().height());
-    setGeometry(place);
+    const int height = sizeHint().height();
+    setGeometry(place.left(), place.center().y() - height / 2, place.width(), height);
+    setObjectName(QStringLiteral("nameEditor"));
     setAutoFillBackground(true);
     const QString suffix = QMimeDatabase().suffixForFileName(name);
     setSelection(0, suffix.isEmpty() ? name.size() : name.size() - suffix.size() - 1);

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QLineEdit>
-#include <QModelIndex>
 
 class QAbstractItemView;
 
@@ -14,8 +13,8 @@ class InPlaceEditor : public QLineEdit
     Q_OBJECT
 
 public:
-    /// Opens over @p index, with the part before the suffix selected. Deletes itself.
-    InPlaceEditor(QAbstractItemView *view, const QModelIndex &index, const QString &name);
+    /// Opens over @p place in the viewport, with the part before the suffix selected. Deletes itself.
+    InPlaceEditor(QAbstractItemView *view, const QRect &place, const QString &name);
 
 Q_SIGNALS:
     void accepted(const QString &name); ///< another one than before, not empty

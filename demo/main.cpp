@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-// A small file manager: a table of one directory. It shows how a program uses the library.
+// A small file manager. It shows how a program uses the library.
 
+#include "containers.h"
 #include "listingstate.h"
 #include "mainwindow.h"
 #include "options.h"
@@ -112,6 +113,7 @@ int showWindow(const Options &options, const Entry &directory)
         return fail(QObject::tr("there is no column %1").arg(options.sortProperty));
     window.openDirectory(directory);
     if (options.screenshotFile.isEmpty()) {
+        window.restoreLayout();
         window.show();
         return QApplication::exec();
     }
@@ -152,7 +154,7 @@ int main(int argc, char **argv)
     const QString name = printableText(QString::fromUtf8(options.directory));
     if (directory.isNull() || !VFS::ptr()->isEntryExists(directory))
         return fail(QObject::tr("%1: there is no such directory").arg(name));
-    if (!directory.isDir() && !directory.isPlace())
+    if (!canBeShown(directory))
         return fail(QObject::tr("%1: not a directory").arg(name));
     if (options.print)
         return printRows(options, directory);

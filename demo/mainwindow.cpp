@@ -3,254 +3,340 @@
 
 #include "mainwindow.h"
 
+#include "containers.h"
+#include "directoryview.h"
 #include "fileactions.h"
+#include "filterbar.h"
+#include "kiosk.h"
 #include "options.h"
+#include "pane.h"
+#include "paneltree.h"
 #include "pathbar.h"
 #include "printabletext.h"
+#include "sidepanel.h"
 #include "statusline.h"
+#include "windowactions.h"
+#include "windowlayout.h"
 
+#include <veskfm/core.h>
 #include <veskfm/desktop.h>
-#include <veskfm/modelfilter.h>
-#include <veskplatform/entrywatcher.h>
+#include <veskfm/entryviewparameters.h>
+#include <veskfm/settings.h>
 #include <veskplatform/standardpaths.h>
 #include <veskplatform/vfs.h>
 
 #include <QAction>
+#include <QActionGroup>
 #include <QCoreApplication>
-#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QProcess>
-#include <QShortcut>
+#include <QSplitter>
 #include <QToolBar>
-
-#include <utility>
 
 using namespace VeskFM;
 
 namespace
 {
-
-constexpr int filterDelayMs = 200;
 constexpr int messageTimeMs = 5000;
-
-bool canBeShown(const Entry &entry)
-{
-    return !entry.isNull() && (entry.isDir() || entry.isPlace());
-}
-
-// The virtual root above the file system has nothing to show in this small program.
-Entry parentToShow(const Entry &directory)
-{
-    const Entry parent = VFS::ptr()->parent(directory);
-    return parent == VFS::ptr()->rootEntry() ? Entry() : parent;
-}
-
+constexpr int panelWidth = 200; // pixels
 } // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
-    , m_model(Model::TableMode, ModelFilter::AllEntries, nullptr)
-    , m_view(&m_model)
+    , m_actions(new WindowActions(this))
+    , m_files(new FileActions(this))
+    , m_content(new QSplitter(this))
+    , m_panel(new SidePanel(m_content))
+    , m_paneArea(new QSplitter(m_content))
+    , m_status(new StatusLine(this))
 {
-    m_model.setShowDotDot(true);
-    setCentralWidget(&m_view);
-    createToolBar();
-    createShortcuts();
-    setStatusBar(new StatusLine(&m_model, &m_view, this));
-    m_actions = new FileActions(&m_model, &m_view, this);
-    connect(m_actions, &FileActions::message, this,
-            [this](const QString &text, bool lasting) { statusBar()->showMessage(text, lasting ? 0 : messageTimeMs); });
-    followDirectory();
-    resize(1000, 650);
-    m_view.setFocus();
+    setObjectName(QStringLiteral("mainWindow"));
+    m_panel->setObjectName(QStringLiteral("sidePanel"));
+    m_content->setStretchFactor(1, 1);
+    m_content->setSizes({panelWidth, width() - panelWidth});
+    m_content->setCollapsible(1, false);
+    m_paneArea->setChildrenCollapsible(false);
+    setCentralWidget(m_content);
+    setStatusBar(m_status);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    m_actions->fillMenuBar(menuBar(), *m_files);
+    menuBar()->setVisible(!Kiosk::isOn());
+    QToolBar *const bar = addToolBar(tr("Navigation"));
+    bar->setObjectName(QStringLiteral("toolBar"));
+    bar->setMovable(false);
+    m_actions->fillToolBar(bar);
+    setActivePane(addPane());
+    connectActions();
+    connectViewActions();
+    connectPanel();
+    resize(1100, 700);
+    m_active->focusView();
+}
+
+MainWindow::~MainWindow()
+{
+    qDeleteAll(m_panes); // while what listens to them is there
 }
 
 Model *MainWindow::model()
 {
-    return &m_model;
+    return m_active->model();
+}
+
+Pane *MainWindow::otherPane() const
+{
+    for (Pane *pane : m_panes) {
+        if (pane != m_active && !pane->isHidden())
+            return pane;
+    }
+    return nullptr;
 }
 
 bool MainWindow::configure(const Options &options)
 {
-    m_filter->setText(options.filter);
-    m_filterTimer.stop();
-    m_hidden->setChecked(options.hidden);
-    return applyOptions(options, &m_model);
+    m_actions->hidden->setChecked(options.hidden);
+    m_active->setFilter(options.filter);
+    return applyOptions(options, model());
 }
 
 void MainWindow::openDirectory(const Entry &directory)
 {
-    const Entry previous = m_model.actualRootEntry();
-    if (!showDirectory(directory))
+    m_active->openDirectory(directory);
+}
+
+void MainWindow::openInOtherPane(const Entry &directory)
+{
+    setTwoPanes(true);
+    otherPane()->openDirectory(directory);
+}
+
+void MainWindow::showEntry(const Entry &entry)
+{
+    m_active->openDirectory(VFS::ptr()->parent(entry), entry);
+    raise();
+    activateWindow();
+    m_active->focusView();
+}
+
+void MainWindow::showMessage(const QString &text, bool lasting)
+{
+    statusBar()->showMessage(text, lasting ? 0 : messageTimeMs);
+}
+
+Pane *MainWindow::addPane()
+{
+    auto *const pane = new Pane(m_paneArea);
+    pane->setObjectName(m_panes.isEmpty() ? QStringLiteral("leftPane") : QStringLiteral("rightPane"));
+    m_panes.append(pane);
+    m_files->listenTo(pane);
+    m_status->listenTo(pane);
+    followPane(pane);
+    return pane;
+}
+
+void MainWindow::followPane(Pane *pane)
+{
+    const auto whenActive = [this, pane](auto method) {
+        return [this, pane, method] {
+            if (pane == m_active)
+                (this->*method)();
+        };
+    };
+    connect(pane, &Pane::activated, this, [this, pane] { setActivePane(pane); });
+    connect(pane, &Pane::directoryChanged, this, whenActive(&MainWindow::showWhereWeAre));
+    connect(pane, &Pane::message, this, [this](const QString &text) { showMessage(text); });
+    connect(pane->views(), &EntryViews::modeChanged, this, whenActive(&MainWindow::showViewMode));
+    connect(pane->views(), &EntryViews::tabPressed, m_actions->otherPane, &QAction::trigger);
+    connect(pane->views(), &EntryViews::menuRequested, this, [this, pane](const QPoint &position) {
+        setActivePane(pane);
+        m_files->showMenu(position, {m_actions->properties});
+    });
+}
+
+void MainWindow::setActivePane(Pane *pane)
+{
+    const bool changed = pane != m_active;
+    m_active = pane;
+    Pane *const other = otherPane();
+    pane->setActive(other != nullptr); // a mark on the only one would tell nothing
+    if (other)
+        other->setActive(false);
+    m_files->setPanes(pane, other);
+    m_actions->otherPane->setEnabled(other);
+    if (!changed)
         return;
-    if (!previous.isNull() && previous != directory)
-        m_earlier.append(previous);
-    m_later.clear();
+    m_status->setPane(pane);
+    showViewMode();
     showWhereWeAre();
 }
 
-void MainWindow::createToolBar()
+void MainWindow::setTwoPanes(bool two)
 {
-    QToolBar *bar = addToolBar(tr("Navigation"));
-    bar->setMovable(false);
-    bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    m_back = addNavigation(bar, QStringLiteral("go-previous"), tr("Back"), {QKeySequence::Back}, &MainWindow::goBack);
-    m_forward =
-        addNavigation(bar, QStringLiteral("go-next"), tr("Forward"), {QKeySequence::Forward}, &MainWindow::goForward);
-    m_up = addNavigation(bar, QStringLiteral("go-up"), tr("Up"), {Qt::ALT + Qt::Key_Up, Qt::Key_Backspace},
-                         &MainWindow::goUp);
-
-    m_pathBar = new PathBar(bar);
-    bar->addWidget(m_pathBar);
-    connect(m_pathBar, &PathBar::directoryEntered, this, &MainWindow::openDirectory);
-    connect(m_pathBar, &PathBar::directoryEntered, &m_view, QOverload<>::of(&QWidget::setFocus));
-    connect(m_pathBar, &PathBar::entryRefused, this,
-            [this](const QString &message) { statusBar()->showMessage(message, messageTimeMs); });
-
-    m_filter = new QLineEdit(bar);
-    m_filter->setPlaceholderText(tr("Filter: name or *.png;*.jpg"));
-    m_filter->setClearButtonEnabled(true);
-    m_filter->setFixedWidth(fontMetrics().averageCharWidth() * 32);
-    bar->addWidget(m_filter);
-    m_filterTimer.setSingleShot(true);
-    m_filterTimer.setInterval(filterDelayMs);
-    connect(m_filter, &QLineEdit::textChanged, &m_filterTimer, QOverload<>::of(&QTimer::start));
-    connect(m_filter, &QLineEdit::returnPressed, this, &MainWindow::applyFilter);
-    connect(&m_filterTimer, &QTimer::timeout, this, &MainWindow::applyFilter);
-
-    m_hidden = bar->addAction(tr("Hidden"));
-    m_hidden->setCheckable(true);
-    m_hidden->setShortcut(Qt::CTRL + Qt::Key_H);
-    m_hidden->setToolTip(tr("Show hidden files (Ctrl+H)"));
-    connect(m_hidden, &QAction::toggled, this, [this](bool on) { m_model.setShowHiddenEntries(on); });
+    if (two == (otherPane() != nullptr))
+        return;
+    if (two && m_panes.size() == 1) {
+        Pane *const pane = addPane();
+        pane->views()->setMode(m_active->views()->mode());
+        pane->model()->setShowHiddenEntries(m_actions->hidden->isChecked());
+    }
+    Pane *const added = m_panes.at(m_panes.first() == m_active ? 1 : 0);
+    added->setVisible(two);
+    if (two && !m_active->directory().isNull())
+        added->openDirectory(m_active->directory());
+    m_actions->twoPanes->setChecked(two);
+    setActivePane(m_active);
+    m_paneArea->setSizes({m_paneArea->width() / 2, m_paneArea->width() / 2});
 }
 
-QAction *MainWindow::addNavigation(QToolBar *bar, const QString &iconName, const QString &text,
-                                   const QList<QKeySequence> &keys, void (MainWindow::*slot)())
+void MainWindow::connectActions()
 {
-    QAction *action = bar->addAction(QIcon::fromTheme(iconName), text, this, slot);
-    action->setShortcuts(keys);
-    return action;
+    const WindowActions &actions = *m_actions;
+    const auto on = [this](QAction *action, auto slot) { connect(action, &QAction::triggered, this, slot); };
+    on(actions.newWindow, &MainWindow::openAnotherWindow);
+    on(actions.closeWindow, &QWidget::close);
+    on(actions.quit, &QWidget::close);
+    on(actions.selectAll, [this] { m_active->views()->view()->selectAll(); });
+    on(actions.invertSelection, [this] { m_active->views()->invertSelection(); });
+    on(actions.back, [this] { m_active->goBack(); });
+    on(actions.forward, [this] { m_active->goForward(); });
+    on(actions.up, [this] { m_active->goUp(); });
+    on(actions.home, [this] { openDirectory(VFS::ptr()->homeEntry()); });
+    on(actions.trashCan, [this] { openDirectory(VFS::ptr()->entry(StandardPaths::trashDirPath())); });
+    on(actions.path, [this] {
+        m_active->pathBar()->setFocus(Qt::ShortcutFocusReason);
+        m_active->pathBar()->selectAll();
+    });
+    on(actions.otherPane, [this] {
+        if (Pane *const other = otherPane())
+            other->focusView();
+    });
+    on(actions.about, [this] {
+        QMessageBox::about(this, tr("About"),
+                           tr("A file manager that shows what libveskfmcore %1 can do.").arg(Core::version()));
+    });
+    connect(m_files, &FileActions::message, this, &MainWindow::showMessage);
 }
 
-void MainWindow::createShortcuts()
+void MainWindow::connectViewActions()
 {
-    const auto focusAll = [](QLineEdit *edit) {
-        return [edit] {
-            edit->setFocus();
-            edit->selectAll();
-        };
+    const WindowActions &actions = *m_actions;
+    const auto on = [this](QAction *action, auto slot) { connect(action, &QAction::triggered, this, slot); };
+    on(actions.table, [this] { m_active->views()->setMode(EntryViews::Table); });
+    on(actions.icons, [this] { m_active->views()->setMode(EntryViews::Icons); });
+    on(actions.zoomIn, [this] { m_active->views()->zoom(1); });
+    on(actions.zoomOut, [this] { m_active->views()->zoom(-1); });
+    on(actions.zoomReset, [this] { m_active->views()->resetZoom(); });
+    on(actions.filter, [this] { m_active->filterBar()->open(); });
+    on(actions.reload, [this] { m_active->reload(); });
+    on(actions.twoPanes, &MainWindow::setTwoPanes);
+    connect(actions.hidden, &QAction::toggled, this, [this](bool show) {
+        for (Pane *pane : qAsConst(m_panes))
+            pane->model()->setShowHiddenEntries(show);
+        m_panel->setShowHidden(show);
+    });
+    const auto showThumbnails = [this] {
+        m_actions->thumbnails->setChecked(EntryViewParameters::ptr()->showThumbnails());
     };
-    connect(new QShortcut(Qt::CTRL + Qt::Key_L, this), &QShortcut::activated, m_pathBar, focusAll(m_pathBar));
-    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, m_filter, focusAll(m_filter));
-    connect(new QShortcut(QKeySequence::New, this), &QShortcut::activated, this, &MainWindow::openAnotherWindow);
-    connect(new QShortcut(Qt::CTRL + Qt::Key_T, this), &QShortcut::activated, this,
-            [this] { openDirectory(VFS::ptr()->entry(StandardPaths::trashDirPath())); });
-    connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this, [this] { m_model.rebuild(); });
-    connect(new QShortcut(QKeySequence::Quit, this), &QShortcut::activated, this, &QWidget::close);
+    showThumbnails();
+    connect(EntryViewParameters::ptr(), &EntryViewParameters::showThumbnailsChanged, this, showThumbnails);
+    on(actions.thumbnails, [](bool show) { Settings::ptr()->setShowThumbnails(show); });
+    connect(actions.sortMenu, &QMenu::aboutToShow, this, &MainWindow::fillSortMenu);
+    const Settings *const settings = Settings::ptr();
+    connect(settings, &Settings::showFullPathInWindowTitleChanged, this, &MainWindow::showWhereWeAre);
+    const auto showStripes = [this, settings] {
+        for (Pane *pane : qAsConst(m_panes))
+            pane->views()->table()->setAlternatingRowColors(settings->alternateRowColorsInTable());
+    };
+    connect(settings, &Settings::alternateRowColorsInTableChanged, this, showStripes);
+    showStripes();
+}
+
+void MainWindow::connectPanel()
+{
+    m_actions->sidePanel->setChecked(true);
+    connect(m_actions->sidePanel, &QAction::toggled, m_panel, &QWidget::setVisible);
+    connect(m_actions->panelFocus, &QAction::triggered, this, [this] {
+        m_actions->sidePanel->setChecked(true);
+        (m_panel->places()->hasFocus() ? m_panel->tree() : m_panel->places())->setFocus(Qt::ShortcutFocusReason);
+    });
+    connect(m_panel, &SidePanel::opened, this, [this](const Entry &entry, bool inOtherPane) {
+        if (inOtherPane)
+            openInOtherPane(entry);
+        else
+            openDirectory(entry);
+    });
+    connect(m_panel, &SidePanel::entriesDropped, m_files,
+            [this](const EntryList &entries, const Entry &target, Qt::DropAction action) {
+                m_files->transfer(entries, target, action == Qt::MoveAction);
+            });
+}
+
+void MainWindow::fillSortMenu()
+{
+    QMenu *const menu = m_actions->sortMenu;
+    menu->clear();
+    Model *const shown = model();
+    auto *const properties = new QActionGroup(menu);
+    const QList<QPair<QString, int>> sortable = shown->sortableProperties();
+    for (const QPair<QString, int> &property : sortable) {
+        QAction *const action = menu->addAction(property.first, shown, [shown, property] {
+            shown->rebuildWithPropertySortIndex(property.second, Model::KeepOrder);
+        });
+        action->setCheckable(true);
+        action->setChecked(property.second == shown->propertySortIndex());
+        properties->addAction(action);
+    }
+    menu->addSeparator();
+    QAction *const descending = menu->addAction(tr("Descending"));
+    descending->setCheckable(true);
+    descending->setChecked(shown->sortOrder() == Model::Descending);
+    connect(descending, &QAction::triggered, shown,
+            [shown](bool on) { shown->rebuildWithPropertySortIndex(-1, on ? Model::Descending : Model::Ascending); });
 }
 
 void MainWindow::openAnotherWindow()
 {
+    const Entry directory = m_active->directory();
     Desktop *const desktop = Desktop::ptr();
     if (desktop->isAvailable())
-        desktop->callRegularWindow(m_model.actualRootEntry(), Desktop::NoOptions);
+        desktop->callRegularWindow(directory, Desktop::NoOptions);
     else
-        QProcess::startDetached(QCoreApplication::applicationFilePath(), {m_model.actualRootEntry().localPath()});
+        QProcess::startDetached(QCoreApplication::applicationFilePath(), {directory.path()});
 }
 
-void MainWindow::followDirectory()
+void MainWindow::showViewMode()
 {
-    connect(&m_view, &DirectoryView::entryActivated, this, &MainWindow::activateEntry);
-    connect(&m_model, &Model::dirListed, this, [this](const Entry &directory) {
-        if (directory == m_model.actualRootEntry())
-            m_view.showEntry(std::exchange(m_cameFrom, {}));
-    });
-    // Queued, since the watcher speaks from any thread.
-    connect(VFS::ptr()->entryWatcher(), &EntryWatcher::entryDeleted, this, &MainWindow::leaveDeletedDirectory,
-            Qt::QueuedConnection);
-}
-
-void MainWindow::goBack()
-{
-    if (m_earlier.isEmpty())
-        return;
-    const Entry previous = m_model.actualRootEntry();
-    if (showDirectory(m_earlier.takeLast()))
-        m_later.append(previous);
-    showWhereWeAre();
-}
-
-void MainWindow::goForward()
-{
-    if (m_later.isEmpty())
-        return;
-    const Entry previous = m_model.actualRootEntry();
-    if (showDirectory(m_later.takeLast()))
-        m_earlier.append(previous);
-    showWhereWeAre();
-}
-
-void MainWindow::goUp()
-{
-    const Entry parent = parentToShow(m_model.actualRootEntry());
-    if (!parent.isNull())
-        openDirectory(parent);
-}
-
-void MainWindow::activateEntry(const Entry &entry)
-{
-    if (canBeShown(entry))
-        openDirectory(entry);
-    else
-        m_actions->open(EntryList{entry}, false);
-}
-
-bool MainWindow::showDirectory(const Entry &directory)
-{
-    if (!canBeShown(directory) || !VFS::ptr()->isEntryExists(directory)) {
-        statusBar()->showMessage(tr("There is no folder %1").arg(printableText(directory.path())), messageTimeMs);
-        return false;
-    }
-    const Entry previous = m_model.actualRootEntry();
-    m_cameFrom = !previous.isNull() && VFS::ptr()->parent(previous) == directory ? previous : Entry();
-    if (previous != directory && !previous.isNull() && !m_filter->text().isEmpty()) {
-        m_filter->clear(); // a filter is for the directory it was typed in
-        m_filterTimer.stop();
-        m_model.filter().setNameFilters(nameFilterPatterns({}));
-        m_model.filter().flushChanges(); // the rebuild below is enough
-    }
-    statusBar()->clearMessage();
-    m_model.rebuild(directory);
-    return true;
+    const bool icons = m_active->views()->mode() == EntryViews::Icons;
+    (icons ? m_actions->icons : m_actions->table)->setChecked(true);
 }
 
 void MainWindow::showWhereWeAre()
 {
-    const Entry directory = m_model.actualRootEntry();
-    m_pathBar->setDirectory(directory);
-    m_back->setEnabled(!m_earlier.isEmpty());
-    m_forward->setEnabled(!m_later.isEmpty());
-    m_up->setEnabled(!parentToShow(directory).isNull());
-    const QString name = directory.lastPathSection();
-    setWindowTitle(printableText(name.isEmpty() ? directory.path() : name));
+    const Entry directory = m_active->directory();
+    m_actions->back->setEnabled(m_active->canGoBack());
+    m_actions->forward->setEnabled(m_active->canGoForward());
+    m_actions->up->setEnabled(m_active->canGoUp());
+    if (directory.isNull())
+        return;
+    const bool fullPath = Settings::ptr()->showFullPathInWindowTitle();
+    setWindowTitle(fullPath ? printableText(directory.path()) : shownName(directory));
+    m_panel->showDirectory(directory);
 }
 
-// The model keeps its root whatever happens to it; a window should not stay where nothing is any more.
-void MainWindow::leaveDeletedDirectory(const Entry &deleted)
+void MainWindow::restoreLayout()
 {
-    if (deleted.isNull() || deleted != m_model.actualRootEntry() || VFS::ptr()->isEntryExists(deleted))
-        return;
-    Entry parent = parentToShow(deleted);
-    while (!parent.isNull() && !VFS::ptr()->isEntryExists(parent))
-        parent = parentToShow(parent);
-    if (parent.isNull())
-        return;
-    openDirectory(parent);
-    statusBar()->showMessage(tr("%1 has been deleted").arg(printableText(deleted.path())), messageTimeMs);
+    WindowLayout().restore(this, m_content, m_panel);
 }
 
-void MainWindow::applyFilter()
+void MainWindow::saveLayout() const
 {
-    m_filterTimer.stop();
-    m_model.setNameFilters(nameFilterPatterns(m_filter->text()));
+    WindowLayout().save(*this, *m_content, *m_panel);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    saveLayout();
+    QMainWindow::closeEvent(event);
 }

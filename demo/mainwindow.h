@@ -3,21 +3,24 @@
 
 #pragma once
 
-#include "directoryview.h"
+#include <veskplatform/entrylist.h>
 
-#include <veskfm/model.h>
-
-#include <QList>
 #include <QMainWindow>
-#include <QTimer>
 
 class FileActions;
-class PathBar;
-class QLineEdit;
-class QToolBar;
+class Pane;
+class SidePanel;
+class StatusLine;
+class WindowActions;
+class QSplitter;
 struct Options;
 
-/// One directory in a window, with the ways out of it.
+namespace VeskFM
+{
+class Model;
+}
+
+/// A window of the file manager: one directory or two side by side, with a panel of places, menus and a status line.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -25,40 +28,48 @@ class MainWindow : public QMainWindow
 public:
     /// Shows nothing until openDirectory().
     explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
 
-    VeskFM::Model *model();
+    VeskFM::Model *model(); ///< of the active pane
+    Pane *activePane() const { return m_active; }
+    Pane *otherPane() const; ///< null while there is one only
+    SidePanel *sidePanel() const { return m_panel; }
+    WindowActions *actionSet() const { return m_actions; }
+    FileActions *fileActions() const { return m_files; }
+
     /// Sorting, filter and hidden files as the command line wants them. Returns false for an unknown sort column.
     bool configure(const Options &options);
-    /// Goes to @p directory, which becomes the latest place of the history.
+    /// Goes to @p directory in the active pane.
     void openDirectory(const VeskFM::Entry &directory);
+    void openInOtherPane(const VeskFM::Entry &directory); ///< makes a second one where there is none
+    void showEntry(const VeskFM::Entry &entry);           ///< goes to its directory and selects it
+    void setTwoPanes(bool two);
+    void showMessage(const QString &text, bool lasting = false);
+
+    void restoreLayout(); ///< takes over how the last window looked
+    void saveLayout() const;
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
 
 private:
-    void createToolBar();
-    QAction *addNavigation(QToolBar *bar, const QString &iconName, const QString &text, const QList<QKeySequence> &keys,
-                           void (MainWindow::*slot)());
-    void createShortcuts();
-    void openAnotherWindow();
-    void followDirectory();
-    void goBack();
-    void goForward();
-    void goUp();
-    void activateEntry(const VeskFM::Entry &entry);
-    bool showDirectory(const VeskFM::Entry &directory);
+    Pane *addPane();
+    void setActivePane(Pane *pane);
+    void connectActions();
+    void connectViewActions();
+    void connectPanel();
+    void followPane(Pane *pane);
     void showWhereWeAre();
-    void leaveDeletedDirectory(const VeskFM::Entry &deleted);
-    void applyFilter();
+    void showViewMode();
+    void fillSortMenu();
+    void openAnotherWindow();
 
-    VeskFM::Model m_model;
-    DirectoryView m_view; // a member, so that it goes before its model
-    FileActions *m_actions = nullptr;
-    PathBar *m_pathBar = nullptr;
-    QLineEdit *m_filter = nullptr;
-    QAction *m_back = nullptr;
-    QAction *m_forward = nullptr;
-    QAction *m_up = nullptr;
-    QAction *m_hidden = nullptr;
-    QTimer m_filterTimer;           // a filter lists anew: wait until the typing pauses
-    QList<VeskFM::Entry> m_earlier; // the latest last
-    QList<VeskFM::Entry> m_later;   // the next last
-    VeskFM::Entry m_cameFrom;       // gets the cursor when its parent has been listed
+    WindowActions *m_actions;
+    FileActions *m_files;
+    QSplitter *m_content; // the panel, then the panes
+    SidePanel *m_panel;
+    QSplitter *m_paneArea;
+    StatusLine *m_status;
+    QList<Pane *> m_panes; // one, or two of which the second may be hidden
+    Pane *m_active = nullptr;
 };

@@ -3,6 +3,7 @@
 
 #include "pathbar.h"
 
+#include "containers.h"
 #include "printabletext.h"
 
 #include <veskplatform/vfs.h>
@@ -27,9 +28,18 @@ void PathBar::setDirectory(const Entry &directory)
 
 void PathBar::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape)
-        setDirectory(m_directory);
-    QLineEdit::keyPressEvent(event);
+    if (event->key() != Qt::Key_Escape) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    setDirectory(m_directory);
+    Q_EMIT left();
+}
+
+void PathBar::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    Q_EMIT focused();
 }
 
 void PathBar::takeText()
@@ -37,7 +47,7 @@ void PathBar::takeText()
     const Entry entry = VFS::ptr()->entry(enteredPath());
     if (entry.isNull() || !VFS::ptr()->isEntryExists(entry))
         Q_EMIT entryRefused(tr("There is no %1").arg(printableText(text())));
-    else if (!entry.isDir() && !entry.isPlace())
+    else if (!canBeShown(entry))
         Q_EMIT entryRefused(tr("%1 is not a folder").arg(printableText(text())));
     else
         Q_EMIT directoryEntered(entry);

@@ -20,9 +20,12 @@ public:
 Q_SIGNALS:
     void directoryEntered(const VeskFM::Entry &directory); ///< exists, and is a directory or a place
     void entryRefused(const QString &message);
+    void left();    ///< with Escape
+    void focused(); ///< by the user
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
 
 private:
     void takeText();

@@ -6,6 +6,7 @@
 #include "listingstate.h"
 #include "mainwindow.h"
 
+#include <veskfm/model.h>
 #include <veskfm/propertyenumerator.h>
 #include <veskfm/props.h>
 

@@ -3,15 +3,16 @@
 
 #include "statusline.h"
 
-#include "directoryview.h"
 #include "listingstate.h"
+#include "pane.h"
 #include "printabletext.h"
 
 #include <veskfm/core.h>
-#include <veskfm/model.h>
+#include <veskfm/settings.h>
 
 #include <QItemSelectionModel>
 #include <QLabel>
+#include <QLocale>
 #include <QSlider>
 
 using namespace VeskFM;
@@ -22,14 +23,16 @@ constexpr int listingDelayMs = 100;  // most listings are quicker: no text that 
 constexpr int selectionDelayMs = 60; // a rubber band or a held arrow key changes the selection many times a second
 } // namespace
 
-StatusLine::StatusLine(Model *model, DirectoryView *view, QWidget *parent)
+StatusLine::StatusLine(QWidget *parent)
     : QStatusBar(parent)
-    , m_model(model)
-    , m_view(view)
     , m_listing(new QLabel(this))
     , m_selection(new QLabel(this))
     , m_iconSize(new QSlider(Qt::Horizontal, this))
 {
+    setObjectName(QStringLiteral("statusLine"));
+    m_listing->setObjectName(QStringLiteral("listingText"));
+    m_selection->setObjectName(QStringLiteral("selectionText"));
+    m_iconSize->setObjectName(QStringLiteral("iconSize"));
     m_iconSize->setRange(0, IconSize::nSizes - 1);
     m_iconSize->setFixedWidth(120);
     m_iconSize->setPageStep(1);
@@ -43,71 +46,97 @@ StatusLine::StatusLine(Model *model, DirectoryView *view, QWidget *parent)
     m_listingTimer.setSingleShot(true);
     m_selectionTimer.setSingleShot(true);
     m_selectionTimer.setInterval(selectionDelayMs);
-    connect(&m_listingTimer, &QTimer::timeout, this, &StatusLine::describeListing);
+    connect(&m_listingTimer, &QTimer::timeout, this, &StatusLine::describeListings);
     connect(&m_selectionTimer, &QTimer::timeout, this, &StatusLine::describeSelection);
-    followModel();
-    followIconSize();
+    connect(m_iconSize, &QSlider::valueChanged, this, [this](int step) {
+        if (m_pane && m_pane->views()->entryIconSize().sizeIndex() != step)
+            m_pane->views()->setEntryIconSize(IconSize(IconSize::sizes[step]));
+    });
+    followSettings();
 }
 
-void StatusLine::followModel()
+void StatusLine::followSettings()
 {
+    const Settings *const settings = Settings::ptr();
+    const auto showSlider = [this, settings] { m_iconSize->setVisible(settings->showScaleSliderInStatusBar()); };
+    connect(settings, &Settings::showScaleSliderInStatusBarChanged, m_iconSize, showSlider);
+    showSlider();
+}
+
+void StatusLine::listenTo(Pane *pane)
+{
+    m_panes.append(pane);
+    Model *const model = pane->model();
     const auto later = [this] { m_listingTimer.start(0); };
-    connect(m_model, &QAbstractItemModel::modelReset, this, [this] {
-        m_view->setEmptyText({});
+    connect(model, &QAbstractItemModel::modelReset, this, [this, pane] {
+        pane->views()->setEmptyText({});
         m_listingTimer.start(listingDelayMs);
     });
-    connect(m_model, &QAbstractItemModel::rowsInserted, this, later);
-    connect(m_model, &QAbstractItemModel::rowsRemoved, this, later);
-    connect(m_model, &Model::dirListed, this, later);
-    const auto selectionLater = [this] { m_selectionTimer.start(); };
-    connect(m_view, &DirectoryView::selectedRowsChanged, this, selectionLater);
-    connect(m_model, &QAbstractItemModel::modelReset, this, selectionLater);
+    connect(model, &QAbstractItemModel::rowsInserted, this, later);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, later);
+    connect(model, &Model::dirListed, this, later);
+    connect(pane->views(), &EntryViews::selectionChanged, this, [this] { m_selectionTimer.start(); });
+    connect(pane->views(), &EntryViews::entryIconSizeChanged, this, &StatusLine::showIconSize);
 }
 
-void StatusLine::followIconSize()
+void StatusLine::setPane(Pane *pane)
 {
-    const auto show = [this](IconSize size) {
-        m_iconSize->setValue(size.sizeIndex());
-        m_iconSize->setToolTip(tr("Icons: %1").arg(size.name()));
-    };
-    connect(m_view, &DirectoryView::entryIconSizeChanged, m_iconSize, show);
-    connect(m_iconSize, &QSlider::valueChanged, m_view, [this](int step) {
-        if (m_view->entryIconSize().sizeIndex() != step)
-            m_view->setEntryIconSize(IconSize(IconSize::sizes[step]));
-    });
-    show(m_view->entryIconSize());
+    m_pane = pane;
+    m_listingTimer.start(0);
+    m_selectionTimer.start();
+    showIconSize();
 }
 
-void StatusLine::describeListing()
+void StatusLine::showIconSize()
 {
-    const int count = entryCount(*m_model);
-    if (isListing(*m_model)) {
-        m_view->setEmptyText({});
-        m_listing->setText(tr("Listing %1 …").arg(printableText(m_model->actualRootEntry().path())));
+    if (!m_pane)
+        return;
+    const IconSize size = m_pane->views()->entryIconSize();
+    m_iconSize->setValue(size.sizeIndex());
+    m_iconSize->setToolTip(tr("Icons: %1").arg(size.name()));
+}
+
+void StatusLine::describeListings()
+{
+    for (Pane *pane : qAsConst(m_panes))
+        describeListing(pane);
+}
+
+void StatusLine::describeListing(Pane *pane)
+{
+    const Model &model = *pane->model();
+    const int count = entryCount(model);
+    QString text;
+    QString emptyText;
+    if (isListing(model)) {
+        text = tr("Listing %1 …").arg(printableText(pane->directory().path()));
     } else if (count > 0) {
-        m_listing->setText(count == 1 ? tr("1 entry") : tr("%1 entries").arg(locale().toString(count)));
-    } else {
-        const QString reason = emptyListingReason(*m_model);
-        m_view->setEmptyText(reason);
-        m_listing->setText(reason);
+        text = count == 1 ? tr("1 entry") : tr("%1 entries").arg(locale().toString(count));
+    } else if (!pane->directory().isNull()) {
+        emptyText = emptyListingReason(model);
+        text = emptyText;
     }
+    pane->views()->setEmptyText(emptyText);
+    if (pane == m_pane)
+        m_listing->setText(text);
 }
 
 void StatusLine::describeSelection()
 {
-    const QModelIndexList rows = m_view->selectionModel()->selectedRows();
+    if (!m_pane)
+        return;
+    const EntryList entries = m_pane->views()->selectedEntries();
     qint64 bytes = 0;
     bool hasFiles = false;
-    for (const QModelIndex &row : rows) {
-        const Entry entry = m_model->entryByIndex(row);
+    for (const Entry &entry : entries) {
         if (entry.isFile()) {
             hasFiles = true;
             bytes += entry.fileSize();
         }
     }
     QString text;
-    if (rows.size() > 0)
-        text = tr("%1 selected").arg(locale().toString(rows.size()));
+    if (!entries.isEmpty())
+        text = tr("%1 selected").arg(locale().toString(entries.size()));
     if (hasFiles)
         text += QLatin1String(", ") + Core::dataSizeAsString(bytes);
     m_selection->setText(text);

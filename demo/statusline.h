@@ -6,32 +6,31 @@
 #include <QStatusBar>
 #include <QTimer>
 
-class DirectoryView;
+class Pane;
 class QLabel;
 class QSlider;
 
-namespace VeskFM
-{
-class Model;
-}
-
-/// The bottom line of the window: what is being listed, how many entries there are or why there are none, what is
-/// selected, and a slider for the size of the icons. It also gives the view its text for an empty directory.
+/// The bottom line of the window: what the active pane is listing, how many entries there are or why there are none,
+/// what is selected, and a slider for the size of the icons. It also gives the panes their text for an empty directory.
 class StatusLine : public QStatusBar
 {
     Q_OBJECT
 
 public:
-    StatusLine(VeskFM::Model *model, DirectoryView *view, QWidget *parent = nullptr); ///< both must outlive it
+    explicit StatusLine(QWidget *parent = nullptr);
+
+    void listenTo(Pane *pane);
+    void setPane(Pane *pane); ///< the one to describe; it must outlive this line
 
 private:
-    void followModel();
-    void followIconSize();
-    void describeListing();
+    void followSettings();
+    void describeListings();
+    void describeListing(Pane *pane);
     void describeSelection();
+    void showIconSize();
 
-    VeskFM::Model *m_model; // these two borrowed
-    DirectoryView *m_view;
+    Pane *m_pane = nullptr; // borrowed
+    QList<Pane *> m_panes;  // likewise
     QLabel *m_listing;
     QLabel *m_selection;
     QSlider *m_iconSize;

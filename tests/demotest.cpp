@@ -93,7 +93,7 @@ void DemoTest::savesAPicture()
     const QString file = tree.path("window.png");
     const Result result = runBrowser({"--screenshot", file, tree.path("dir")});
     QVERIFY2(result.exitCode == 0, result.errors.constData());
-    QCOMPARE(QImage(file).size(), QSize(1000, 650));
+    QCOMPARE(QImage(file).size(), QSize(1100, 700));
     QCOMPARE(runBrowser({"--screenshot", tree.path("none/window.png"), tree.path("dir")}).exitCode, 1);
 }
 

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <veskplatform/entry.h>
+
+/// Whether a pane can show the inside of @p entry: a directory, a place or an archive.
+bool canBeShown(const VeskFM::Entry &entry);
+
+/// Where "up" leads from @p directory; null at the top of the disk, of an archive on it never.
+VeskFM::Entry parentToShow(const VeskFM::Entry &directory);
+
+/// The archive that @p directory is, or lies in; null for one of the disk.
+VeskFM::Entry archiveAround(const VeskFM::Entry &directory);
+
+/// A name for titles and lists: of a place its label, of the root its path.
+QString shownName(const VeskFM::Entry &entry);

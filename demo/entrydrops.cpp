@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "entrydrops.h"
+
+#include <veskfm/clipboard.h>
+
+#include <QAbstractItemView>
+#include <QDropEvent>
+#include <QScrollBar>
+
+using namespace VeskFM;
+
+namespace
+{
+constexpr int scrollMargin = 24; // pixels from the edge
+} // namespace
+
+EntryDrops::EntryDrops(QAbstractItemView *view, Target target)
+    : QObject(view)
+    , m_view(view)
+    , m_target(std::move(target))
+{
+    view->setAcceptDrops(true);
+    view->viewport()->installEventFilter(this);
+}
+
+bool EntryDrops::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::DragEnter:
+        event->setAccepted(true); // the next row may take it
+        return true;
+    case QEvent::DragMove: {
+        auto *const move = static_cast<QDragMoveEvent *>(event);
+        scrollNearEdge(move->pos().y());
+        const bool known = !Clipboard::ptr()->actualMimeTypes(move->mimeData()).isEmpty();
+        move->setAccepted(known && !m_target(*move).isNull());
+        return true;
+    }
+    case QEvent::DragLeave:
+        return true;
+    case QEvent::Drop:
+        drop(static_cast<QDropEvent *>(event));
+        return true;
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+void EntryDrops::scrollNearEdge(int y)
+{
+    QScrollBar *const bar = m_view->verticalScrollBar();
+    if (y < scrollMargin)
+        bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
+    else if (y > m_view->viewport()->height() - scrollMargin)
+        bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+}
+
+void EntryDrops::drop(QDropEvent *event)
+{
+    const Entry target = m_target(*event);
+    const EntryList entries = Clipboard::ptr()->dropEntries(event->mimeData());
+    if (target.isNull() || entries.isEmpty()) {
+        event->ignore();
+        return;
+    }
+    const Qt::DropAction action = event->dropAction();
+    event->setDropAction(Qt::CopyAction); // the service takes the originals of a move away, not the source of the drag
+    event->accept();
+    Q_EMIT dropped(entries, target, action, event->pos());
+}

@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "entryviews.h"
+
+#include "directoryview.h"
+#include "entrydrops.h"
+#include "iconview.h"
+#include "listingcurtain.h"
+#include "selectionkeeper.h"
+
+#include <veskfm/model.h>
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QWheelEvent>
+
+using namespace VeskFM;
+
+namespace
+{
+constexpr int namePadding = 4;      // pixels between an icon and its name
+constexpr int emptyTextMargin = 40; // pixels
+const IconSize defaultSizes[] = {IconSize::Small, IconSize::VeryLarge};
+} // namespace
+
+EntryViews::EntryViews(Model *model, QWidget *parent)
+    : QStackedWidget(parent)
+    , m_model(model)
+    , m_table(new DirectoryView(model, this))
+    , m_icons(new IconView(model, this))
+    , m_emptyText(new QLabel(this))
+{
+    m_table->setObjectName(QStringLiteral("table"));
+    m_icons->setObjectName(QStringLiteral("icons"));
+    delete m_icons->selectionModel();
+    m_icons->setSelectionModel(m_table->selectionModel());
+    adopt(m_table);
+    adopt(m_icons);
+    applyIconSize(Table);
+    applyIconSize(Icons);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &EntryViews::selectionChanged);
+    connect(model, &QAbstractItemModel::modelReset, this, &EntryViews::selectionChanged);
+    auto *const keeper = new SelectionKeeper(model, selectionModel(), this);
+    connect(keeper, &SelectionKeeper::restored, this, [this] { view()->scrollTo(view()->currentIndex()); });
+    new ListingCurtain(model, this);
+
+    m_emptyText->setObjectName(QStringLiteral("emptyText"));
+    m_emptyText->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_emptyText->setAlignment(Qt::AlignCenter);
+    m_emptyText->setWordWrap(true);
+    m_emptyText->setForegroundRole(QPalette::PlaceholderText);
+    m_emptyText->hide();
+}
+
+void EntryViews::adopt(QAbstractItemView *view)
+{
+    addWidget(view);
+    view->installEventFilter(this);
+    view->viewport()->installEventFilter(this);
+    view->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(view, &QAbstractItemView::activated, this,
+            [this](const QModelIndex &index) { Q_EMIT entryActivated(m_model->entryByIndex(index)); });
+    connect(view, &QWidget::customContextMenuRequested, this,
+            [this, view](const QPoint &position) { Q_EMIT menuRequested(view->viewport()->mapToGlobal(position)); });
+    auto *const drops = new EntryDrops(view, [this, view](const QDropEvent &event) { return dropTarget(view, event); });
+    connect(drops, &EntryDrops::dropped, this, &EntryViews::entriesDropped);
+}
+
+EntryViews::Mode EntryViews::mode() const
+{
+    return currentWidget() == m_icons ? Icons : Table;
+}
+
+void EntryViews::setMode(Mode mode)
+{
+    if (mode == this->mode())
+        return;
+    const bool hadFocus = view()->hasFocus();
+    const QModelIndex current = view()->currentIndex();
+    setCurrentIndex(mode);
+    if (hadFocus)
+        view()->setFocus();
+    if (current.isValid())
+        view()->scrollTo(current);
+    m_emptyText->raise();
+    Q_EMIT modeChanged(mode);
+    Q_EMIT entryIconSizeChanged(m_sizes[mode]);
+}
+
+IconSize EntryViews::entryIconSize() const
+{
+    return m_sizes[mode()];
+}
+
+void EntryViews::setEntryIconSize(IconSize size)
+{
+    setEntryIconSize(mode(), size);
+}
+
+void EntryViews::setEntryIconSize(Mode mode, IconSize size)
+{
+    if (m_sizes[mode] == size)
+        return;
+    m_sizes[mode] = size;
+    applyIconSize(mode);
+    if (mode == this->mode())
+        Q_EMIT entryIconSizeChanged(size);
+}
+
+void EntryViews::applyIconSize(Mode mode)
+{
+    const int pixels = m_sizes[mode].toInt();
+    if (mode == Icons)
+        m_icons->setCellIconSize(pixels);
+    else
+        m_table->setIconSize(QSize(pixels, pixels));
+}
+
+void EntryViews::zoom(int steps)
+{
+    IconSize size = entryIconSize();
+    if (steps > 0 ? size.increase() : size.decrease())
+        setEntryIconSize(size);
+}
+
+void EntryViews::resetZoom()
+{
+    setEntryIconSize(defaultSizes[mode()]);
+}
+
+QAbstractItemView *EntryViews::view() const
+{
+    return mode() == Icons ? static_cast<QAbstractItemView *>(m_icons) : m_table;
+}
+
+QItemSelectionModel *EntryViews::selectionModel() const
+{
+    return m_table->selectionModel();
+}
+
+EntryList EntryViews::selectedEntries() const
+{
+    QModelIndexList rows = selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    return m_model->indexesToEntries(rows);
+}
+
+Entry EntryViews::currentEntry() const
+{
+    const QModelIndex current = selectionModel()->currentIndex();
+    return current.isValid() ? m_model->entryByIndex(current) : Entry();
+}
+
+void EntryViews::invertSelection()
+{
+    const int rows = m_model->rowCount();
+    if (rows == 0)
+        return;
+    const QItemSelection all(m_model->index(0, 0), m_model->index(rows - 1, m_model->columnCount() - 1));
+    selectionModel()->select(all, QItemSelectionModel::Toggle);
+}
+
+void EntryViews::showEntry(const Entry &entry)
+{
+    const QModelIndex index = entry.isNull() ? QModelIndex() : m_model->indexOfEntry(entry);
+    if (index.isValid())
+        view()->setCurrentIndex(index);
+    else if (!view()->currentIndex().isValid()) // for the keyboard
+        selectionModel()->setCurrentIndex(m_model->index(0, 0), QItemSelectionModel::NoUpdate);
+}
+
+QRect EntryViews::nameRect(const QModelIndex &index) const
+{
+    QRect rect = view()->visualRect(index);
+    if (mode() == Icons)
+        rect.setTop(rect.top() + view()->iconSize().height() + namePadding);
+    else
+        rect.setLeft(rect.left() + view()->iconSize().width() + namePadding);
+    return rect;
+}
+
+void EntryViews::setEmptyText(const QString &text)
+{
+    m_emptyText->setText(text);
+    m_emptyText->setVisible(!text.isEmpty());
+    m_emptyText->raise();
+}
+
+void EntryViews::resizeEvent(QResizeEvent *event)
+{
+    QStackedWidget::resizeEvent(event);
+    m_emptyText->setGeometry(rect().adjusted(emptyTextMargin, emptyTextMargin, -emptyTextMargin, -emptyTextMargin));
+}
+
+bool EntryViews::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *const watchedView = qobject_cast<QAbstractItemView *>(watched);
+    switch (event->type()) {
+    case QEvent::KeyPress: {
+        const auto *const key = static_cast<QKeyEvent *>(event);
+        return watchedView && onKey(watchedView, key->key(), key->modifiers());
+    }
+    case QEvent::Wheel: {
+        const auto *const wheel = static_cast<QWheelEvent *>(event);
+        return onWheel(wheel->angleDelta().y(), wheel->modifiers());
+    }
+    case QEvent::FocusIn:
+        if (watchedView)
+            Q_EMIT focused();
+        return false;
+    default:
+        return QStackedWidget::eventFilter(watched, event);
+    }
+}
+
+// Return activates by itself only on some platforms' terms; a view of directories always enters on it.
+bool EntryViews::onKey(QAbstractItemView *view, int key, Qt::KeyboardModifiers modifiers)
+{
+    modifiers &= ~Qt::KeypadModifier;
+    if (modifiers != Qt::NoModifier)
+        return false;
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && view->currentIndex().isValid()) {
+        Q_EMIT entryActivated(m_model->entryByIndex(view->currentIndex()));
+        return true;
+    }
+    if (key == Qt::Key_Tab) {
+        Q_EMIT tabPressed();
+        return true;
+    }
+    return false;
+}
+
+bool EntryViews::onWheel(int delta, Qt::KeyboardModifiers modifiers)
+{
+    if (!modifiers.testFlag(Qt::ControlModifier) || delta == 0)
+        return false;
+    zoom(delta > 0 ? 1 : -1);
+    return true;
+}
+
+Entry EntryViews::dropTarget(QAbstractItemView *view, const QDropEvent &event) const
+{
+    const QModelIndex row = view->indexAt(event.pos()).siblingAtColumn(0);
+    if (row.isValid() && m_model->flags(row).testFlag(Qt::ItemIsDropEnabled))
+        return m_model->entryByIndex(row);
+    return event.source() == view ? Entry() : m_model->actualRootEntry(); // they are there already
+}
