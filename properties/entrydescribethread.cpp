@@ -64,9 +64,14 @@ void EntryDescribeThread::describe(const EntryList &entries)
 
 void EntryDescribeThread::stop()
 {
+    cancel();
+    wait();
+}
+
+void EntryDescribeThread::cancel()
+{
     m_relaxationTimer->stop();
     setRunning(false);
-    wait();
 }
 
 void EntryDescribeThread::relaxationTimeout()

@@ -33,6 +33,9 @@ public:
     /// Stops the background part and waits until it has ended. Digests that are not yet begun are left out; one that
     /// ignores its running flag holds this up until it returns.
     void stop();
+    /// As stop(), but returns at once: for somebody who cannot wait for a digest that takes its time. finished() tells of
+    /// the end. Until then neither describe() nor the destruction of the object can do without waiting.
+    void cancel();
 
 Q_SIGNALS:
     /// The text so far. While work goes on it comes every 100 ms with an animation behind; the last one is plain.

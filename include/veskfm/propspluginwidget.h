@@ -21,6 +21,8 @@ public:
 
 Q_SIGNALS:
     void changed(); ///< the user edited something: the dialog enables its apply action
+    /// apply() could not write everything back. The dialog stays open, shows the page, and @p reason, one line.
+    void applyFailed(const QString &reason);
 
 public Q_SLOTS:
     virtual void apply() = 0; ///< writes the edits back

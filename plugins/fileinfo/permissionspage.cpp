@@ -186,8 +186,10 @@ void PermissionsPage::apply()
             errors << target.name + QLatin1String(": ") + qt_error_string(error);
     }
     load();
-    if (!errors.isEmpty())
-        showErrors(errors);
+    if (errors.isEmpty())
+        return;
+    showErrors(errors);
+    Q_EMIT applyFailed(translated(QT_TRANSLATE_NOOP("FileInfo", "Not all permissions could be changed.")));
 }
 
 void PermissionsPage::showErrors(const QStringList &errors)
