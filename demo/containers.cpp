@@ -5,13 +5,22 @@
 
 #include "printabletext.h"
 
+#include <veskplatform/standardpaths.h>
 #include <veskplatform/vfs.h>
+#include <veskplatform/vfsplacebase.h>
+
+#include <algorithm>
 
 using namespace VeskFM;
 
 bool canBeShown(const Entry &entry)
 {
     return entry.isDir() || entry.isPlace() || entry.isArchiveMountPoint();
+}
+
+Entry directoryToShow(const Entry &entry)
+{
+    return entry.isDirPlace() && !entry.isTrashDirPlace() ? VFS::ptr()->entry(entry.localPath()) : entry;
 }
 
 // The virtual root above the file system has nothing to show that the side panel does not.
@@ -29,6 +38,13 @@ Entry archiveAround(const Entry &directory)
     while (!step.isNull() && !step.isArchiveMountPoint())
         step = parentToShow(step);
     return step;
+}
+
+Entry trashPlace()
+{
+    const EntryList places = VFS::ptr()->placeBase()->childEntries(VFS::ptr()->placesEntry());
+    const auto trash = std::find_if(places.cbegin(), places.cend(), [](const Entry &e) { return e.isTrashDirPlace(); });
+    return trash == places.cend() ? VFS::ptr()->entry(StandardPaths::trashDirPath()) : *trash;
 }
 
 QString shownName(const Entry &entry)

@@ -7,6 +7,7 @@
 #include "layoutrepaint.h"
 
 #include <veskfm/model.h>
+#include <veskfm/settings.h>
 
 #include <QHeaderView>
 #include <QSignalBlocker>
@@ -15,7 +16,8 @@ using namespace VeskFM;
 
 namespace
 {
-constexpr int columnPadding = 20; // pixels
+constexpr int columnPadding = 20;  // pixels
+constexpr int nameCharacters = 24; // of average width, at least
 } // namespace
 
 DirectoryView::DirectoryView(Model *model, QWidget *parent)
@@ -44,6 +46,10 @@ DirectoryView::DirectoryView(Model *model, QWidget *parent)
     connect(header(), &QHeaderView::sortIndicatorChanged, this, &DirectoryView::sortByHeader);
     connect(model, &Model::sortingChanged, this, &DirectoryView::showSorting);
     showSorting();
+    const Settings *const settings = Settings::ptr();
+    const auto showStripes = [this, settings] { setAlternatingRowColors(settings->alternateRowColorsInTable()); };
+    connect(settings, &Settings::alternateRowColorsInTableChanged, this, showStripes);
+    showStripes();
 }
 
 void DirectoryView::layOutColumns()
@@ -65,6 +71,32 @@ void DirectoryView::layOutColumns()
     for (int column = 1; column < names.size(); ++column) {
         const QString text = typicalTexts.value(names.at(column), QStringLiteral("username"));
         header()->resizeSection(column, fontMetrics().horizontalAdvance(text) + columnPadding);
+    }
+    for (const QString &name : {QStringLiteral("Size"), QStringLiteral("Modified")})
+        m_importance += m_model->propertyIndex(name);
+    for (int column = 1; column < names.size(); ++column) {
+        if (!m_importance.contains(column))
+            m_importance += column;
+    }
+    m_importance.removeAll(-1);
+}
+
+void DirectoryView::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    hideWhatDoesNotFit();
+}
+
+void DirectoryView::hideWhatDoesNotFit()
+{
+    int room = viewport()->width() - iconSize().width() - fontMetrics().averageCharWidth() * nameCharacters;
+    for (const int column : qAsConst(m_importance)) {
+        const bool wasHidden = header()->isSectionHidden(column);
+        header()->setSectionHidden(column, false); // a hidden one has no size
+        room -= header()->sectionSize(column);
+        header()->setSectionHidden(column, room < 0);
+        if (wasHidden != header()->isSectionHidden(column))
+            scheduleDelayedItemsLayout();
     }
 }
 

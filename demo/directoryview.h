@@ -10,7 +10,7 @@ namespace VeskFM
 class Model;
 }
 
-/// The table of one directory. A click on a header sorts.
+/// The table of one directory. A click on a header sorts. Columns that a narrow table has no room for are hidden.
 class DirectoryView : public QTreeView
 {
     Q_OBJECT
@@ -18,10 +18,15 @@ class DirectoryView : public QTreeView
 public:
     explicit DirectoryView(VeskFM::Model *model, QWidget *parent = nullptr); ///< @p model must outlive the view
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void layOutColumns();
+    void hideWhatDoesNotFit();
     void sortByHeader(int column, Qt::SortOrder order);
     void showSorting();
 
-    VeskFM::Model *m_model; // borrowed
+    VeskFM::Model *m_model;    // borrowed
+    QVector<int> m_importance; // columns, those first that are hidden last
 };

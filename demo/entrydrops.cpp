@@ -14,6 +14,12 @@ using namespace VeskFM;
 namespace
 {
 constexpr int scrollMargin = 24; // pixels from the edge
+
+bool isKnown(const QMimeData *data)
+{
+    return !Clipboard::ptr()->actualMimeTypes(data).isEmpty();
+}
+
 } // namespace
 
 EntryDrops::EntryDrops(QAbstractItemView *view, Target target)
@@ -28,14 +34,13 @@ EntryDrops::EntryDrops(QAbstractItemView *view, Target target)
 bool EntryDrops::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::DragEnter:
-        event->setAccepted(true); // the next row may take it
+    case QEvent::DragEnter: // a row that does not take it is followed by one that may
+        event->setAccepted(isKnown(static_cast<QDragEnterEvent *>(event)->mimeData()));
         return true;
     case QEvent::DragMove: {
         auto *const move = static_cast<QDragMoveEvent *>(event);
         scrollNearEdge(move->pos().y());
-        const bool known = !Clipboard::ptr()->actualMimeTypes(move->mimeData()).isEmpty();
-        move->setAccepted(known && !m_target(*move).isNull());
+        move->setAccepted(isKnown(move->mimeData()) && !m_target(*move).isNull());
         return true;
     }
     case QEvent::DragLeave:

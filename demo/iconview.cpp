@@ -15,7 +15,6 @@ namespace
 constexpr int cellPadding = 8;     // pixels between icons or names of neighbours
 constexpr int nameCharacters = 14; // of average width, on one line
 constexpr int nameLines = 2;
-constexpr int layoutBatch = 5000; // rows; a view of a large directory is there with the first ones
 } // namespace
 
 IconView::IconView(Model *model, QWidget *parent)
@@ -27,8 +26,7 @@ IconView::IconView(Model *model, QWidget *parent)
     setMovement(Static);
     setResizeMode(Adjust);
     setUniformItemSizes(true); // otherwise every row is asked for its size
-    setLayoutMode(Batched);
-    setBatchSize(layoutBatch);
+    setLayoutMode(SinglePass); // of so uniform a grid that is quick, and in batches a change would scroll to the top
     setWordWrap(true);
     setTextElideMode(Qt::ElideMiddle);
     setSelectionMode(ExtendedSelection);

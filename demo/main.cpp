@@ -25,6 +25,8 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
+#include <vector>
 
 using namespace VeskFM;
 
@@ -106,18 +108,26 @@ int printRows(const Options &options, const Entry &directory)
     return problem.isEmpty() ? 0 : fail(printableText(directory.path()) + QLatin1String(": ") + problem);
 }
 
-int showWindow(const Options &options, const Entry &directory)
+int showWindows(const Options &options, const EntryList &directories)
+{
+    std::vector<std::unique_ptr<MainWindow>> windows;
+    for (const Entry &directory : directories) {
+        windows.push_back(std::make_unique<MainWindow>());
+        if (!windows.back()->configure(options))
+            return fail(QObject::tr("there is no column %1").arg(options.sortProperty));
+        windows.back()->restoreLayout();
+        windows.back()->openDirectory(directory);
+        windows.back()->show();
+    }
+    return QApplication::exec();
+}
+
+int takePicture(const Options &options, const Entry &directory)
 {
     MainWindow window;
     if (!window.configure(options))
         return fail(QObject::tr("there is no column %1").arg(options.sortProperty));
     window.openDirectory(directory);
-    if (options.screenshotFile.isEmpty()) {
-        window.restoreLayout();
-        window.show();
-        return QApplication::exec();
-    }
-
     Screenshot screenshot(&window, options.screenshotFile);
     QString problem;
     QObject::connect(&screenshot, &Screenshot::finished, qApp, [&problem](const QString &text) {
@@ -150,15 +160,20 @@ int main(int argc, char **argv)
         return fail(problem);
     EntryViewParameters::ptr()->initFromSettings();
 
-    const Entry directory = entryForArgument(options.directory);
-    const QString name = printableText(QString::fromUtf8(options.directory));
-    if (directory.isNull() || !VFS::ptr()->isEntryExists(directory))
-        return fail(QObject::tr("%1: there is no such directory").arg(name));
-    if (!canBeShown(directory))
-        return fail(QObject::tr("%1: not a directory").arg(name));
+    EntryList directories;
+    for (const QByteArray &argument : qAsConst(options.directories)) {
+        const Entry directory = entryForArgument(argument);
+        const QString name = printableText(QString::fromUtf8(argument));
+        if (directory.isNull() || !VFS::ptr()->isEntryExists(directory))
+            return fail(QObject::tr("%1: there is no such directory").arg(name));
+        if (!canBeShown(directory))
+            return fail(QObject::tr("%1: not a directory").arg(name));
+        directories.append(directory);
+    }
     if (options.print)
-        return printRows(options, directory);
+        return printRows(options, directories.first());
     chooseIconTheme();
     chooseFont();
-    return showWindow(options, directory);
+    return options.screenshotFile.isEmpty() ? showWindows(options, directories)
+                                            : takePicture(options, directories.first());
 }

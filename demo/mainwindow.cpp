@@ -22,7 +22,6 @@
 #include <veskfm/desktop.h>
 #include <veskfm/entryviewparameters.h>
 #include <veskfm/settings.h>
-#include <veskplatform/standardpaths.h>
 #include <veskplatform/vfs.h>
 
 #include <QAction>
@@ -203,7 +202,7 @@ void MainWindow::connectActions()
     on(actions.forward, [this] { m_active->goForward(); });
     on(actions.up, [this] { m_active->goUp(); });
     on(actions.home, [this] { openDirectory(VFS::ptr()->homeEntry()); });
-    on(actions.trashCan, [this] { openDirectory(VFS::ptr()->entry(StandardPaths::trashDirPath())); });
+    on(actions.trashCan, [this] { openDirectory(trashPlace()); });
     on(actions.path, [this] {
         m_active->pathBar()->setFocus(Qt::ShortcutFocusReason);
         m_active->pathBar()->selectAll();
@@ -245,12 +244,6 @@ void MainWindow::connectViewActions()
     connect(actions.sortMenu, &QMenu::aboutToShow, this, &MainWindow::fillSortMenu);
     const Settings *const settings = Settings::ptr();
     connect(settings, &Settings::showFullPathInWindowTitleChanged, this, &MainWindow::showWhereWeAre);
-    const auto showStripes = [this, settings] {
-        for (Pane *pane : qAsConst(m_panes))
-            pane->views()->table()->setAlternatingRowColors(settings->alternateRowColorsInTable());
-    };
-    connect(settings, &Settings::alternateRowColorsInTableChanged, this, showStripes);
-    showStripes();
 }
 
 void MainWindow::connectPanel()

@@ -37,9 +37,13 @@ QString textOption(const QCommandLineParser &parser, const QString &name)
 
 void describeOptions(QCommandLineParser *parser)
 {
-    parser->setApplicationDescription(tr("Shows a directory."));
-    parser->addPositionalArgument(QStringLiteral("DIR"), tr("Directory to show; the current one if not given."),
-                                  QStringLiteral("[DIR]"));
+    parser->setApplicationDescription(tr(
+        "Shows directories. In a kiosk there is no menu bar, and no way to type a path, to change settings, to open\n"
+        "another window, or to start an application that the kiosk does not allow."));
+    parser->addPositionalArgument(QStringLiteral("DIR"),
+                                  tr("Directory to show, a path or a URL; the current one if not given. Each gets a "
+                                     "window."),
+                                  QStringLiteral("[DIR...]"));
     parser->addOptions({
         {{QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help and exit.")},
         {QStringLiteral("print"), tr("Print the rows as a table and exit.")},
@@ -59,7 +63,12 @@ QString readOptions(int argc, char **argv, Options *options)
     QCommandLineParser parser;
     describeOptions(&parser);
     const bool parsed = parser.parse(rawArguments(argc, argv));
-    options->directory = parser.positionalArguments().value(0).toLatin1();
+    const QStringList directories = parser.positionalArguments();
+    options->directories.clear();
+    for (const QString &directory : directories)
+        options->directories += directory.toLatin1();
+    if (directories.isEmpty())
+        options->directories += QByteArrayLiteral(".");
     options->help = parser.isSet(QStringLiteral("help"));
     options->print = parser.isSet(QStringLiteral("print"));
     options->screenshotFile = textOption(parser, QStringLiteral("screenshot"));
@@ -70,7 +79,7 @@ QString readOptions(int argc, char **argv, Options *options)
     options->sortOrder = sorting.value(1) == QLatin1String("desc") ? Model::Descending : Model::Ascending;
     if (!parsed)
         return parser.errorText();
-    return parser.positionalArguments().size() > 1 ? tr("more than one directory") : QString();
+    return options->directories.size() > 1 && options->isHeadless() ? tr("more than one directory") : QString();
 }
 
 QString helpText()
@@ -82,8 +91,10 @@ QString helpText()
 
 Entry entryForArgument(const QByteArray &path)
 {
+    if (path.startsWith("file:/"))
+        return VFS::ptr()->entriesFromUrls({QUrl::fromEncoded(path)}).value(0);
     // A URL keeps the bytes of a name that is no valid text; the VFS turns them into its own writing.
-    const QString relative = QString::fromLatin1(path.isEmpty() ? QByteArrayLiteral(".") : path);
+    const QString relative = QString::fromLatin1(path);
     const QString here = QString::fromLatin1(QFile::encodeName(QDir::currentPath()));
     const QByteArray absolute = QDir::cleanPath(QDir(here).absoluteFilePath(relative)).toLatin1();
     const QUrl url = QUrl::fromEncoded("file://" + absolute.toPercentEncoding("/"), QUrl::StrictMode);

@@ -6,13 +6,14 @@
 #include <veskfm/model.h>
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
 /// What the command line asks for.
 struct Options
 {
-    QByteArray directory; ///< as given, in the bytes of the file system; empty for the current directory
+    QList<QByteArray> directories; ///< as given, in the bytes of the file system; the current one if none was
     bool help = false;
     bool print = false;
     QString screenshotFile; ///< empty: no screenshot
@@ -33,7 +34,8 @@ QString readOptions(int argc, char **argv, Options *options);
 /// The text for --help; needs the application object.
 QString helpText();
 
-/// The entry that a path of the command line names, relative to the current directory; null where there is none.
+/// The entry that a path or file URL of the command line names, relative to the current directory; null where there is
+/// none.
 VeskFM::Entry entryForArgument(const QByteArray &path);
 
 /// The patterns for what a user types into a name filter: wildcards as they are, separated by ";", other text anywhere

@@ -5,6 +5,7 @@
 
 #include "containers.h"
 #include "filterbar.h"
+#include "kiosk.h"
 #include "pathbar.h"
 #include "printabletext.h"
 
@@ -63,6 +64,7 @@ Pane::~Pane()
 void Pane::createBars()
 {
     m_pathBar->setObjectName(QStringLiteral("pathBar"));
+    m_pathBar->setReadOnly(Kiosk::isOn());
     m_filter->setObjectName(QStringLiteral("filter"));
     connect(m_pathBar, &PathBar::directoryEntered, this, [this](const Entry &directory) {
         focusView();
@@ -127,7 +129,7 @@ void Pane::openDirectory(const Entry &directory, const Entry &cursor)
         return;
     if (!cursor.isNull())
         m_cursor = cursor;
-    if (!previous.isNull() && previous != directory)
+    if (!previous.isNull() && previous != this->directory())
         m_history.leave(previous);
     Q_EMIT directoryChanged();
 }
@@ -193,10 +195,12 @@ void Pane::activateEntry(const Entry &entry)
         Q_EMIT fileActivated(entry);
 }
 
-bool Pane::showDirectory(const Entry &directory)
+bool Pane::showDirectory(const Entry &container)
 {
+    const Entry directory = directoryToShow(container);
     if (!canBeShown(directory) || !VFS::ptr()->isEntryExists(directory)) {
-        Q_EMIT message(tr("There is no folder %1").arg(printableText(directory.path())));
+        const QString path = container.localPath().isEmpty() ? container.path() : container.localPath();
+        Q_EMIT message(tr("There is no folder %1").arg(printableText(path)));
         return false;
     }
     const Entry previous = this->directory();

@@ -56,7 +56,7 @@ private:
     void followModel();
     void followParameters();
     void activateEntry(const VeskFM::Entry &entry);
-    bool showDirectory(const VeskFM::Entry &directory);
+    bool showDirectory(const VeskFM::Entry &container);
     void leaveLostDirectory(const VeskFM::Entry &lost);
 
     std::unique_ptr<VeskFM::Model> m_model;

@@ -27,21 +27,25 @@ StatusLine::StatusLine(QWidget *parent)
     : QStatusBar(parent)
     , m_listing(new QLabel(this))
     , m_selection(new QLabel(this))
+    , m_room(new QLabel(this))
     , m_iconSize(new QSlider(Qt::Horizontal, this))
 {
     setObjectName(QStringLiteral("statusLine"));
     m_listing->setObjectName(QStringLiteral("listingText"));
     m_selection->setObjectName(QStringLiteral("selectionText"));
+    m_room->setObjectName(QStringLiteral("roomText"));
     m_iconSize->setObjectName(QStringLiteral("iconSize"));
     m_iconSize->setRange(0, IconSize::nSizes - 1);
     m_iconSize->setFixedWidth(120);
     m_iconSize->setPageStep(1);
     m_listing->setContentsMargins(6, 0, 0, 0);
     m_selection->setContentsMargins(0, 0, 12, 0);
+    m_room->setContentsMargins(0, 0, 12, 0);
     setSizeGripEnabled(false);
     setContentsMargins(0, 0, 8, 0);
     addWidget(m_listing, 1);
     addPermanentWidget(m_selection);
+    addPermanentWidget(m_room);
     addPermanentWidget(m_iconSize);
     m_listingTimer.setSingleShot(true);
     m_selectionTimer.setSingleShot(true);
@@ -61,6 +65,21 @@ void StatusLine::followSettings()
     const auto showSlider = [this, settings] { m_iconSize->setVisible(settings->showScaleSliderInStatusBar()); };
     connect(settings, &Settings::showScaleSliderInStatusBarChanged, m_iconSize, showSlider);
     showSlider();
+    connect(settings, &Settings::showDiskSpaceInfoInStatusBarChanged, this, &StatusLine::askForRoom);
+    connect(&m_diskSpace, &DiskSpace::changed, this, &StatusLine::showRoom);
+}
+
+void StatusLine::askForRoom()
+{
+    const bool shown = Settings::ptr()->showDiskSpaceInfoInStatusBar();
+    m_room->setVisible(shown);
+    m_diskSpace.setDirectory(shown && m_pane ? m_pane->directory() : Entry());
+}
+
+void StatusLine::showRoom(qint64 freeBytes, qint64 totalBytes)
+{
+    m_room->setText(freeBytes < 0 ? QString() : tr("%1 free").arg(Core::dataSizeAsString(freeBytes)));
+    m_room->setToolTip(freeBytes < 0 ? QString() : tr("of %1").arg(Core::dataSizeAsString(totalBytes)));
 }
 
 void StatusLine::listenTo(Pane *pane)
@@ -75,6 +94,7 @@ void StatusLine::listenTo(Pane *pane)
     connect(model, &QAbstractItemModel::rowsInserted, this, later);
     connect(model, &QAbstractItemModel::rowsRemoved, this, later);
     connect(model, &Model::dirListed, this, later);
+    connect(pane, &Pane::directoryChanged, this, &StatusLine::askForRoom);
     connect(pane->views(), &EntryViews::selectionChanged, this, [this] { m_selectionTimer.start(); });
     connect(pane->views(), &EntryViews::entryIconSizeChanged, this, &StatusLine::showIconSize);
 }
@@ -85,6 +105,7 @@ void StatusLine::setPane(Pane *pane)
     m_listingTimer.start(0);
     m_selectionTimer.start();
     showIconSize();
+    askForRoom();
 }
 
 void StatusLine::showIconSize()

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "diskspace.h"
+
 #include <QStatusBar>
 #include <QTimer>
 
@@ -11,7 +13,7 @@ class QLabel;
 class QSlider;
 
 /// The bottom line of the window: what the active pane is listing, how many entries there are or why there are none,
-/// what is selected, and a slider for the size of the icons. It also gives the panes their text for an empty directory.
+/// what is selected, how much room is left, and a slider for the size of the icons. It also gives the panes their text for an empty directory.
 class StatusLine : public QStatusBar
 {
     Q_OBJECT
@@ -28,12 +30,16 @@ private:
     void describeListing(Pane *pane);
     void describeSelection();
     void showIconSize();
+    void askForRoom();
+    void showRoom(qint64 freeBytes, qint64 totalBytes);
 
     Pane *m_pane = nullptr; // borrowed
     QList<Pane *> m_panes;  // likewise
     QLabel *m_listing;
     QLabel *m_selection;
+    QLabel *m_room;
     QSlider *m_iconSize;
     QTimer m_listingTimer; // events come by the thousand, texts are for people
     QTimer m_selectionTimer;
+    DiskSpace m_diskSpace;
 };

@@ -69,10 +69,8 @@ WindowActions::WindowActions(QMainWindow *window)
     about = add("about", tr("About"), QStringLiteral("help-about"));
     for (QAction *action : {properties, find, settings})
         action->setEnabled(false);
-    for (QAction *action : {newWindow, settings, path}) {
-        if (Kiosk::isOn())
-            action->setEnabled(false);
-    }
+    for (QAction *action : {newWindow, settings, path})
+        action->setVisible(!Kiosk::isOn()); // nor do the keys of a hidden one work
 }
 
 QAction *WindowActions::add(const char *name, const QString &text, const QString &iconName,
