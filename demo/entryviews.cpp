@@ -141,9 +141,15 @@ QItemSelectionModel *EntryViews::selectionModel() const
 
 EntryList EntryViews::selectedEntries() const
 {
-    QModelIndexList rows = selectionModel()->selectedRows();
-    std::sort(rows.begin(), rows.end());
-    return m_model->indexesToEntries(rows);
+    QItemSelection ranges = selectionModel()->selection(); // to list the rows of a large one takes long
+    std::sort(ranges.begin(), ranges.end(),
+              [](const QItemSelectionRange &a, const QItemSelectionRange &b) { return a.top() < b.top(); });
+    EntryList entries;
+    for (const QItemSelectionRange &range : qAsConst(ranges)) {
+        for (int row = range.top(); range.left() == 0 && row <= range.bottom(); ++row)
+            entries.append(m_model->entryByIndex(m_model->index(row, 0)));
+    }
+    return entries;
 }
 
 Entry EntryViews::currentEntry() const

@@ -125,9 +125,10 @@ void GeneralPage::describeSeveral(const EntryList &entries)
         int(std::count_if(entries.cbegin(), entries.cend(), [](const Entry &entry) { return entry.isDir(); }));
     addRow(QStringLiteral("type"), tr("Type"),
            tr("%1 folders, %2 others").arg(locale().toString(folders), locale().toString(entries.size() - folders)));
-    const QString folder = VFS::parentDirPath(entries.first().path());
+    const QString folder = entries.first().path().section(QLatin1Char('/'), 0, -2);
     const bool together = std::all_of(entries.cbegin(), entries.cend(), [&folder](const Entry &entry) {
-        return VFS::parentDirPath(entry.path()) == folder;
+        const QString path = entry.path();
+        return path.startsWith(folder) && path.lastIndexOf(QLatin1Char('/')) == folder.size();
     });
     addRow(QStringLiteral("location"), tr("Location"), together ? folderOf(entries.first()) : tr("several folders"));
     countContents(entries);

@@ -16,6 +16,7 @@
 #include "sidepanel.h"
 #include "statusline.h"
 #include "windowactions.h"
+#include "windowdialogs.h"
 #include "windowlayout.h"
 
 #include <veskfm/core.h>
@@ -70,6 +71,7 @@ MainWindow::MainWindow(QWidget *parent)
     connectActions();
     connectViewActions();
     connectPanel();
+    new WindowDialogs(this);
     resize(1100, 700);
     m_active->focusView();
 }

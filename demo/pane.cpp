@@ -5,6 +5,7 @@
 
 #include "containers.h"
 #include "filterbar.h"
+#include "filterwidgets.h"
 #include "kiosk.h"
 #include "pathbar.h"
 #include "printabletext.h"
@@ -50,6 +51,7 @@ Pane::Pane(QWidget *parent)
     layout->addLayout(bars);
     layout->addWidget(m_views, 1);
     layout->addWidget(m_filter);
+    layout->addWidget(new FilterWidgets(m_model.get(), m_filter, this));
     setFocusProxy(m_views);
     createBars();
     followModel();

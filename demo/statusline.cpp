@@ -7,7 +7,6 @@
 #include "pane.h"
 #include "printabletext.h"
 
-#include <veskfm/core.h>
 #include <veskfm/settings.h>
 
 #include <QItemSelectionModel>
@@ -56,6 +55,7 @@ StatusLine::StatusLine(QWidget *parent)
         if (m_pane && m_pane->views()->entryIconSize().sizeIndex() != step)
             m_pane->views()->setEntryIconSize(IconSize(IconSize::sizes[step]));
     });
+    connect(&m_description, &SelectionDescription::updated, this, &StatusLine::showSelection);
     followSettings();
 }
 
@@ -147,18 +147,16 @@ void StatusLine::describeSelection()
     if (!m_pane)
         return;
     const EntryList entries = m_pane->views()->selectedEntries();
-    qint64 bytes = 0;
-    bool hasFiles = false;
-    for (const Entry &entry : entries) {
-        if (entry.isFile()) {
-            hasFiles = true;
-            bytes += entry.fileSize();
-        }
+    if (entries.isEmpty()) {
+        m_description.clear();
+        showSelection({});
+    } else {
+        m_description.describe(entries);
     }
-    QString text;
-    if (!entries.isEmpty())
-        text = tr("%1 selected").arg(locale().toString(entries.size()));
-    if (hasFiles)
-        text += QLatin1String(", ") + Core::dataSizeAsString(bytes);
-    m_selection->setText(text);
+}
+
+/// Names may be long, and the rest of the line is needed too.
+void StatusLine::showSelection(const QString &description)
+{
+    m_selection->setText(fontMetrics().elidedText(printableText(description), Qt::ElideMiddle, width() / 2));
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "diskspace.h"
+#include "selectiondescription.h"
 
 #include <QStatusBar>
 #include <QTimer>
@@ -29,6 +30,7 @@ private:
     void describeListings();
     void describeListing(Pane *pane);
     void describeSelection();
+    void showSelection(const QString &description);
     void showIconSize();
     void askForRoom();
     void showRoom(qint64 freeBytes, qint64 totalBytes);
@@ -42,4 +44,5 @@ private:
     QTimer m_listingTimer; // events come by the thousand, texts are for people
     QTimer m_selectionTimer;
     DiskSpace m_diskSpace;
+    SelectionDescription m_description;
 };

@@ -29,4 +29,9 @@ QByteArray diskPath(const Entry &entry)
     return path.contains('\0') ? QByteArray() : path;
 }
 
+bool isOnDisk(const Entry &entry)
+{
+    return !entry.localPath().isEmpty() || !diskPath(entry).isEmpty();
+}
+
 } // namespace VeskFM

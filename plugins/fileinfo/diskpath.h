@@ -13,5 +13,6 @@ class Entry;
 /// The exact bytes of the path of @p entry on the local disk, also for a name that is not valid UTF-8; empty when the
 /// entry is not there. Thread: any.
 QByteArray diskPath(const Entry &entry);
+bool isOnDisk(const Entry &entry); ///< whether there is one; quick
 
 } // namespace VeskFM

@@ -61,8 +61,7 @@ QString FileInfoPlugin::textDigest(const EntryList &entries, bool *running)
 
 bool FileInfoPlugin::hasPropsWidgetFor(const EntryList &entries)
 {
-    return !entries.isEmpty()
-        && std::none_of(entries.cbegin(), entries.cend(), [](const Entry &entry) { return diskPath(entry).isEmpty(); });
+    return !entries.isEmpty() && std::all_of(entries.cbegin(), entries.cend(), isOnDisk);
 }
 
 PropsPluginWidget *FileInfoPlugin::createPropsWidget(const EntryList &entries, QWidget *parent)

@@ -3,22 +3,18 @@
 
 #include "permissionspage.h"
 
-#include "diskpath.h"
-#include "permissiontext.h"
-
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QLabel>
+#include <QProgressDialog>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+#include <QtConcurrentRun>
 
-#include <cerrno>
-
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace VeskFM
 {
@@ -26,8 +22,7 @@ namespace VeskFM
 namespace
 {
 
-constexpr int shownErrors = 5;
-constexpr mode_t permissionBits = 07777;
+constexpr int mostAtOnce = 100; // no longer in the GUI thread than it takes to show them
 
 QString translated(const char *text)
 {
@@ -39,44 +34,14 @@ mode_t bitOf(size_t box)
     return mode_t(S_IRUSR) >> box;
 }
 
-/// Replaces the bits @p changed of the permissions of exactly the file at @p path. Returns 0 or an error of errno.
-int changePermissions(const QByteArray &path, mode_t changed, mode_t bits)
-{
-    // Held by a descriptor from the look to the change: whatever takes its name meanwhile, above all a link, is not
-    // touched. O_PATH needs no right to read the file.
-    const int descriptor = open(path.constData(), O_PATH | O_NOFOLLOW | O_CLOEXEC);
-    if (descriptor < 0)
-        return errno;
-    struct stat found = {};
-    int error = 0;
-    if (fstat(descriptor, &found) != 0) {
-        error = errno;
-    } else if (!S_ISLNK(found.st_mode)) {
-        const QByteArray name = "/proc/self/fd/" + QByteArray::number(descriptor);
-        if (chmod(name.constData(), (found.st_mode & permissionBits & ~changed) | bits) != 0)
-            error = errno;
-    }
-    close(descriptor);
-    return error;
-}
-
-/// The text of all entries, when it is the same.
-void merge(QString &text, const QString &next, bool first)
-{
-    if (first)
-        text = next;
-    else if (text != next)
-        text = translated(QT_TRANSLATE_NOOP("FileInfo", "(various)"));
-}
-
 } // namespace
 
 PermissionsPage::PermissionsPage(const EntryList &entries, QWidget *parent)
     : PropsPluginWidget(parent)
+    , m_entries(entries)
 {
-    for (const Entry &entry : entries)
-        m_targets.push_back({entry.fileName(), diskPath(entry)});
     createWidgets();
+    connect(&m_reader, &QFutureWatcherBase::finished, this, [this] { show(m_reader.result()); });
     load();
 }
 
@@ -92,9 +57,9 @@ void PermissionsPage::createWidgets()
     m_owner = label("owner");
     m_group = label("group");
     m_permissions = label("permissions");
-    m_errors = label("errors");
-    m_errors->setWordWrap(true);
-    m_errors->hide();
+    m_errorLabel = label("errors");
+    m_errorLabel->setWordWrap(true);
+    m_errorLabel->hide();
 
     auto *facts = new QFormLayout;
     facts->addRow(translated(QT_TRANSLATE_NOOP("FileInfo", "Owner:")), m_owner);
@@ -122,47 +87,37 @@ void PermissionsPage::createWidgets()
     auto *layout = new QVBoxLayout(this);
     layout->addLayout(facts);
     layout->addLayout(rights);
-    layout->addWidget(m_errors);
+    layout->addWidget(m_errorLabel);
     layout->addStretch();
 }
 
 /// Shows what is on the disk now.
 void PermissionsPage::load()
 {
-    mode_t all = permissionBits;
-    mode_t any = 0;
-    bool first = true;
-    bool canChange = false;
-    QString owner, group, permissions;
-    QStringList errors;
-    for (const Target &target : m_targets) {
-        struct stat found = {};
-        if (lstat(target.path.constData(), &found) != 0) {
-            errors << target.name + QLatin1String(": ") + qt_error_string(errno);
-            continue;
-        }
-        merge(owner, userName(found.st_uid), first);
-        merge(group, groupName(found.st_gid), first);
-        merge(permissions, permissionText(found.st_mode), first);
-        first = false;
-        if (S_ISLNK(found.st_mode))
-            continue;
-        canChange = true;
-        all &= found.st_mode;
-        any |= found.st_mode;
+    if (m_entries.size() <= mostAtOnce) {
+        show(CommonPermissions::of(m_entries));
+        return;
     }
-    m_owner->setText(owner);
-    m_group->setText(group);
-    m_permissions->setText(permissions);
+    for (QCheckBox *box : m_boxes)
+        box->setEnabled(false);
+    m_reader.setFuture(QtConcurrent::run(&CommonPermissions::of, m_entries));
+}
+
+void PermissionsPage::show(const CommonPermissions &common)
+{
+    m_owner->setText(common.owner);
+    m_group->setText(common.group);
+    m_permissions->setText(common.text);
     for (size_t i = 0; i < m_boxes.size(); ++i) {
-        const bool isMixed = !(all & bitOf(i)) && any & bitOf(i);
-        m_loaded[i] = isMixed ? Qt::PartiallyChecked : canChange && all & bitOf(i) ? Qt::Checked : Qt::Unchecked;
+        const bool isForAll = common.canChange && common.all & bitOf(i);
+        const bool isMixed = !isForAll && common.any & bitOf(i);
+        m_loaded[i] = isMixed ? Qt::PartiallyChecked : isForAll ? Qt::Checked : Qt::Unchecked;
         const QSignalBlocker blocker(m_boxes[i]);
         m_boxes[i]->setTristate(isMixed);
         m_boxes[i]->setCheckState(m_loaded[i]);
-        m_boxes[i]->setEnabled(canChange);
+        m_boxes[i]->setEnabled(common.canChange);
     }
-    showErrors(errors);
+    showErrors(m_errors.count > 0 ? m_errors : common.errors);
 }
 
 void PermissionsPage::apply()
@@ -179,29 +134,41 @@ void PermissionsPage::apply()
     }
     if (!changed)
         return;
-    QStringList errors;
-    for (const Target &target : m_targets) {
-        const int error = changePermissions(target.path, changed, bits);
-        if (error != 0)
-            errors << target.name + QLatin1String(": ") + qt_error_string(error);
-    }
+    m_errors = change(changed, bits);
     load();
-    if (errors.isEmpty())
-        return;
-    showErrors(errors);
-    Q_EMIT applyFailed(translated(QT_TRANSLATE_NOOP("FileInfo", "Not all permissions could be changed.")));
+    if (m_errors.count > 0)
+        Q_EMIT applyFailed(translated(QT_TRANSLATE_NOOP("FileInfo", "Not all permissions could be changed.")));
 }
 
-void PermissionsPage::showErrors(const QStringList &errors)
+/// Returns when it is done. Meanwhile, if it takes long, the user sees that, and can stop it.
+PermissionErrors PermissionsPage::change(mode_t changed, mode_t bits)
 {
-    QStringList lines = errors.mid(0, shownErrors);
-    if (errors.size() > shownErrors)
-        lines << QCoreApplication::translate("FileInfo", "and %n more", nullptr, errors.size() - shownErrors);
+    std::atomic<bool> running{true};
+    if (m_entries.size() <= mostAtOnce)
+        return changePermissions(m_entries, changed, bits, &running);
+    QProgressDialog progress(translated(QT_TRANSLATE_NOOP("FileInfo", "Changing permissions …")),
+                             translated(QT_TRANSLATE_NOOP("FileInfo", "Stop")), 0, 0, window());
+    progress.setWindowModality(Qt::ApplicationModal); // nobody may close the page behind it
+    connect(&progress, &QProgressDialog::canceled, &progress, [&running] { running = false; });
+    QFutureWatcher<PermissionErrors> worker;
+    QEventLoop loop;
+    connect(&worker, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
+    worker.setFuture(QtConcurrent::run(&changePermissions, m_entries, changed, bits, &running));
+    progress.show();
+    loop.exec();
+    return worker.result();
+}
+
+void PermissionsPage::showErrors(const PermissionErrors &errors)
+{
+    QStringList lines = errors.lines;
+    if (errors.count > lines.size())
+        lines << QCoreApplication::translate("FileInfo", "and %n more", nullptr, errors.count - lines.size());
     if (!lines.isEmpty())
         lines.prepend(
             translated(QT_TRANSLATE_NOOP("FileInfo", "The permissions of these could not be read or changed:")));
-    m_errors->setText(lines.join(QLatin1Char('\n')));
-    m_errors->setVisible(!lines.isEmpty());
+    m_errorLabel->setText(lines.join(QLatin1Char('\n')));
+    m_errorLabel->setVisible(!lines.isEmpty());
 }
 
 } // namespace VeskFM

@@ -3,11 +3,13 @@
 
 #pragma once
 
+#include "permissions.h"
+
 #include <veskfm/propspluginwidget.h>
-#include <veskplatform/entrylist.h>
+
+#include <QFutureWatcher>
 
 #include <array>
-#include <vector>
 
 class QCheckBox;
 class QLabel;
@@ -21,7 +23,7 @@ namespace VeskFM
 /// only the rights whose boxes were changed; set-id and sticky bits stay. Symbolic links have no permissions: they are
 /// left alone, and so is what they lead to.
 ///
-/// Errors: listed on the page, an entry a line; the other entries are changed all the same.
+/// Errors: listed on the page, an entry a line; the other entries are changed all the same, and applyFailed() says so.
 ///
 /// For tests and style sheets the boxes are named "user-read" to "others-execute", the labels "owner", "group",
 /// "permissions" and "errors".
@@ -36,23 +38,21 @@ public Q_SLOTS:
     void apply() override;
 
 private:
-    struct Target
-    {
-        QString name;
-        QByteArray path;
-    };
-
     void createWidgets();
     void load();
-    void showErrors(const QStringList &errors);
+    void show(const CommonPermissions &common);
+    PermissionErrors change(mode_t changed, mode_t bits);
+    void showErrors(const PermissionErrors &errors);
 
-    std::vector<Target> m_targets;
+    const EntryList m_entries;
+    QFutureWatcher<CommonPermissions> m_reader;
+    PermissionErrors m_errors;          // of the last change
     std::array<QCheckBox *, 9> m_boxes; // children; in the order of the bits, from the user's right to read
     std::array<Qt::CheckState, 9> m_loaded;
     QLabel *m_owner = nullptr; // this and the following: children
     QLabel *m_group = nullptr;
     QLabel *m_permissions = nullptr;
-    QLabel *m_errors = nullptr;
+    QLabel *m_errorLabel = nullptr;
 };
 
 } // namespace VeskFM
