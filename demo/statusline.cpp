@@ -7,6 +7,7 @@
 #include "pane.h"
 #include "printabletext.h"
 
+#include <veskfm/core.h>
 #include <veskfm/settings.h>
 
 #include <QItemSelectionModel>
