@@ -4,6 +4,7 @@
 #include "directoryview.h"
 
 #include "entrydelegate.h"
+#include "entrydrag.h"
 #include "layoutrepaint.h"
 
 #include <veskfm/model.h>
@@ -112,4 +113,9 @@ void DirectoryView::showSorting()
     const bool descending = m_model->sortOrder() == Model::Descending;
     header()->setSortIndicator(m_model->propertySortIndex(), descending ? Qt::DescendingOrder : Qt::AscendingOrder);
     header()->viewport()->update();
+}
+
+void DirectoryView::startDrag(Qt::DropActions actions)
+{
+    dragSelection(this, actions);
 }

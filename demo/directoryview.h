@@ -19,6 +19,7 @@ public:
     explicit DirectoryView(VeskFM::Model *model, QWidget *parent = nullptr); ///< @p model must outlive the view
 
 protected:
+    void startDrag(Qt::DropActions actions) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

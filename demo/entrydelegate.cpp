@@ -5,11 +5,25 @@
 
 #include "printabletext.h"
 
+#include <QWidget>
+#include <QWindow>
+
 #include <algorithm>
 
 namespace
 {
 constexpr int rowPadding = 4; // pixels above and below the taller of text and icon
+/// A picture of thin lines that the style tints for the selection could not be seen on it any more.
+QIcon untinted(const QIcon &icon, const QStyleOptionViewItem &option)
+{
+    QWindow *const window = option.widget ? option.widget->window()->windowHandle() : nullptr;
+    const QPixmap picture = icon.pixmap(window, option.decorationSize);
+    QIcon result;
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
+        result.addPixmap(picture, mode);
+    return result;
+}
+
 } // namespace
 
 EntryDelegate::EntryDelegate(QObject *parent)
@@ -46,6 +60,8 @@ void EntryDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIn
     QStyledItemDelegate::initStyleOption(option, index);
     option->decorationSize = box; // the base shrinks it to the picture, and names would start anywhere
     option->decorationAlignment = Qt::AlignCenter;
+    if (option->state.testFlag(QStyle::State_Selected) && !option->icon.isNull())
+        option->icon = untinted(option->icon, *option);
     if (index.column() == m_rightAlignedColumn) {
         option->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
         option->text += QStringLiteral("\u2002"); // keeps away from the next column

@@ -7,6 +7,7 @@
 
 #include <QAbstractItemView>
 #include <QDropEvent>
+#include <QRubberBand>
 #include <QScrollBar>
 
 using namespace VeskFM;
@@ -26,6 +27,7 @@ EntryDrops::EntryDrops(QAbstractItemView *view, Target target)
     : QObject(view)
     , m_view(view)
     , m_target(std::move(target))
+    , m_mark(new QRubberBand(QRubberBand::Rectangle, view->viewport()))
 {
     view->setAcceptDrops(true);
     view->viewport()->installEventFilter(this);
@@ -37,13 +39,11 @@ bool EntryDrops::eventFilter(QObject *watched, QEvent *event)
     case QEvent::DragEnter: // a row that does not take it is followed by one that may
         event->setAccepted(isKnown(static_cast<QDragEnterEvent *>(event)->mimeData()));
         return true;
-    case QEvent::DragMove: {
-        auto *const move = static_cast<QDragMoveEvent *>(event);
-        scrollNearEdge(move->pos().y());
-        move->setAccepted(isKnown(move->mimeData()) && !m_target(*move).isNull());
+    case QEvent::DragMove:
+        move(static_cast<QDragMoveEvent *>(event));
         return true;
-    }
     case QEvent::DragLeave:
+        m_mark->hide();
         return true;
     case QEvent::Drop:
         drop(static_cast<QDropEvent *>(event));
@@ -51,6 +51,15 @@ bool EntryDrops::eventFilter(QObject *watched, QEvent *event)
     default:
         return QObject::eventFilter(watched, event);
     }
+}
+
+void EntryDrops::move(QDragMoveEvent *event)
+{
+    scrollNearEdge(event->pos().y());
+    const Place place = isKnown(event->mimeData()) ? m_target(*event) : Place();
+    event->setAccepted(!place.target.isNull());
+    m_mark->setGeometry(place.mark);
+    m_mark->setVisible(!place.target.isNull() && !place.mark.isEmpty());
 }
 
 void EntryDrops::scrollNearEdge(int y)
@@ -64,7 +73,8 @@ void EntryDrops::scrollNearEdge(int y)
 
 void EntryDrops::drop(QDropEvent *event)
 {
-    const Entry target = m_target(*event);
+    m_mark->hide();
+    const Entry target = m_target(*event).target;
     const EntryList entries = Clipboard::ptr()->dropEntries(event->mimeData());
     if (target.isNull() || entries.isEmpty()) {
         event->ignore();

@@ -6,11 +6,14 @@
 #include <veskplatform/entrylist.h>
 
 #include <QObject>
+#include <QRect>
 
 #include <functional>
 
 class QAbstractItemView;
+class QDragMoveEvent;
 class QDropEvent;
+class QRubberBand;
 
 /// Takes what is dropped on a view, in place of the view, and tells what is to go where.
 class EntryDrops : public QObject
@@ -18,8 +21,12 @@ class EntryDrops : public QObject
     Q_OBJECT
 
 public:
-    /// The directory or place that a drop goes to; null where nothing can be dropped. Asked for each move of the mouse.
-    using Target = std::function<VeskFM::Entry(const QDropEvent &event)>;
+    struct Place
+    {
+        VeskFM::Entry target; ///< the directory or place that a drop goes to; null where nothing can be dropped
+        QRect mark;           ///< what to mark in the viewport; empty for nothing
+    };
+    using Target = std::function<Place(const QDropEvent &event)>; ///< asked for each move of the mouse
 
     EntryDrops(QAbstractItemView *view, Target target); ///< becomes a child of @p view
 
@@ -32,9 +39,11 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void move(QDragMoveEvent *event);
     void scrollNearEdge(int y);
     void drop(QDropEvent *event);
 
     QAbstractItemView *m_view;
     Target m_target;
+    QRubberBand *m_mark;
 };

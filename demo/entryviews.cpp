@@ -4,7 +4,6 @@
 #include "entryviews.h"
 
 #include "directoryview.h"
-#include "entrydrops.h"
 #include "iconview.h"
 #include "listingcurtain.h"
 #include "selectionkeeper.h"
@@ -49,7 +48,7 @@ EntryViews::EntryViews(Model *model, QWidget *parent)
     m_emptyText->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_emptyText->setAlignment(Qt::AlignCenter);
     m_emptyText->setWordWrap(true);
-    m_emptyText->setForegroundRole(QPalette::PlaceholderText);
+    m_emptyText->setEnabled(false); // pale
     m_emptyText->hide();
 }
 
@@ -63,7 +62,7 @@ void EntryViews::adopt(QAbstractItemView *view)
             [this](const QModelIndex &index) { Q_EMIT entryActivated(m_model->entryByIndex(index)); });
     connect(view, &QWidget::customContextMenuRequested, this,
             [this, view](const QPoint &position) { Q_EMIT menuRequested(view->viewport()->mapToGlobal(position)); });
-    auto *const drops = new EntryDrops(view, [this, view](const QDropEvent &event) { return dropTarget(view, event); });
+    auto *const drops = new EntryDrops(view, [this, view](const QDropEvent &event) { return dropPlace(view, event); });
     connect(drops, &EntryDrops::dropped, this, &EntryViews::entriesDropped);
 }
 
@@ -245,10 +244,12 @@ bool EntryViews::onWheel(int delta, Qt::KeyboardModifiers modifiers)
     return true;
 }
 
-Entry EntryViews::dropTarget(QAbstractItemView *view, const QDropEvent &event) const
+EntryDrops::Place EntryViews::dropPlace(QAbstractItemView *view, const QDropEvent &event) const
 {
     const QModelIndex row = view->indexAt(event.pos()).siblingAtColumn(0);
     if (row.isValid() && m_model->flags(row).testFlag(Qt::ItemIsDropEnabled))
-        return m_model->entryByIndex(row);
-    return event.source() == view ? Entry() : m_model->actualRootEntry(); // they are there already
+        return {m_model->entryByIndex(row), view->visualRect(row)};
+    if (event.source() == view) // they are there already
+        return {};
+    return {m_model->actualRootEntry(), QRect()};
 }

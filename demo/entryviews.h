@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "entrydrops.h"
+
 #include <veskfm/iconsize.h>
 #include <veskplatform/entrylist.h>
 
@@ -73,7 +75,7 @@ private:
     void applyIconSize(Mode mode);
     bool onKey(QAbstractItemView *view, int key, Qt::KeyboardModifiers modifiers);
     bool onWheel(int delta, Qt::KeyboardModifiers modifiers);
-    VeskFM::Entry dropTarget(QAbstractItemView *view, const QDropEvent &event) const;
+    EntryDrops::Place dropPlace(QAbstractItemView *view, const QDropEvent &event) const;
 
     VeskFM::Model *m_model; // borrowed
     DirectoryView *m_table;

@@ -4,6 +4,7 @@
 #include "iconview.h"
 
 #include "entrydelegate.h"
+#include "entrydrag.h"
 #include "layoutrepaint.h"
 
 #include <veskfm/model.h>
@@ -48,4 +49,9 @@ void IconView::setCellIconSize(int pixels)
     const int height = pixels + nameLines * fontMetrics().lineSpacing() + 2 * cellPadding;
     m_delegate->setCellSize(QSize(width, height));
     setGridSize(QSize(width, height));
+}
+
+void IconView::startDrag(Qt::DropActions actions)
+{
+    dragSelection(this, actions);
 }

@@ -22,6 +22,9 @@ public:
 
     void setCellIconSize(int pixels);
 
+protected:
+    void startDrag(Qt::DropActions actions) override;
+
 private:
     EntryDelegate *m_delegate;
 };

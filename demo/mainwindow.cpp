@@ -261,6 +261,7 @@ void MainWindow::connectPanel()
             openInOtherPane(entry);
         else
             openDirectory(entry);
+        m_panel->showDirectory(m_active->directory()); // what was clicked may be somewhere else, or nowhere
     });
     connect(m_panel, &SidePanel::entriesDropped, m_files,
             [this](const EntryList &entries, const Entry &target, Qt::DropAction action) {

@@ -52,10 +52,11 @@ void SidePanel::adopt(PanelTree *tree, TreeModel *model)
     connect(tree, &PanelTree::menuRequested, this, &SidePanel::menuRequested);
     connect(tree, &PanelTree::removalRequested, this, &SidePanel::removalRequested);
     connect(tree, &PanelTree::renamingRequested, this, &SidePanel::renamingRequested);
-    auto *const drops = new EntryDrops(tree, [tree, model](const QDropEvent &event) {
+    auto *const drops = new EntryDrops(tree, [tree, model](const QDropEvent &event) -> EntryDrops::Place {
         const QModelIndex row = tree->indexAt(event.pos());
-        const bool takes = row.isValid() && model->flags(row).testFlag(Qt::ItemIsDropEnabled);
-        return takes ? model->entryByIndex(row) : Entry();
+        if (!row.isValid() || !model->flags(row).testFlag(Qt::ItemIsDropEnabled))
+            return {};
+        return {model->entryByIndex(row), tree->visualRect(row)};
     });
     connect(drops, &EntryDrops::dropped, this, &SidePanel::entriesDropped);
 }

@@ -3,7 +3,6 @@
 
 #include "windowlayout.h"
 
-#include "directoryview.h"
 #include "mainwindow.h"
 #include "pane.h"
 #include "windowactions.h"
@@ -11,7 +10,6 @@
 #include <veskplatform/veskdirs.h>
 
 #include <QAction>
-#include <QHeaderView>
 #include <QSplitter>
 
 using namespace VeskFM;
@@ -25,7 +23,6 @@ const QString panelShownKey = QStringLiteral("panelShown");
 const QString modeKey = QStringLiteral("iconView");
 const QString tableSizeKey = QStringLiteral("tableIconSize");
 const QString iconSizeKey = QStringLiteral("iconViewIconSize");
-const QString columnsKey = QStringLiteral("columns");
 } // namespace
 
 WindowLayout::WindowLayout()
@@ -43,7 +40,6 @@ void WindowLayout::save(const MainWindow &window, const QSplitter &content, cons
     m_file.setValue(modeKey, views->mode() == EntryViews::Icons);
     m_file.setValue(tableSizeKey, views->entryIconSize(EntryViews::Table).toInt());
     m_file.setValue(iconSizeKey, views->entryIconSize(EntryViews::Icons).toInt());
-    m_file.setValue(columnsKey, views->table()->header()->saveState());
 }
 
 void WindowLayout::restore(MainWindow *window, QSplitter *content, QSplitter *panel)
