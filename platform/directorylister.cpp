@@ -5,6 +5,7 @@
 
 #include "listingorder.h"
 #include "localentrydata.h"
+#include "opendirectory.h"
 #include "pathcodec.h"
 
 #include <QAtomicInt>
@@ -40,24 +41,13 @@ struct DirCloser
 };
 using DirHandle = std::unique_ptr<DIR, DirCloser>;
 
-DirHandle openDirectory(const QString &path)
+/// The stream takes over what @p directory has opened. Null when that is nothing.
+DirHandle streamOf(OpenDirectory *directory)
 {
-    const QByteArray bytes = PathCodec::encode(path);
-    const int fd = bytes.isEmpty() ? -1 : open(bytes.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK);
-    if (fd < 0) {
-        if (bytes.isEmpty())
-            errno = ENOENT;
-        return nullptr;
-    }
-    DIR *const dir = fdopendir(fd);
-    if (!dir)
-        close(fd);
-    return DirHandle(dir);
-}
-
-bool isDotOrDotDot(const char *name)
-{
-    return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
+    DirHandle stream(directory->error() ? nullptr : fdopendir(directory->descriptor()));
+    if (stream)
+        directory->takeDescriptor();
+    return stream;
 }
 
 struct FoundName
@@ -267,19 +257,21 @@ private:
 DirectoryListing listDirectory(const QString &path, VFS::EntryChildFilters filters, const QAtomicInt *cancel)
 {
     DirectoryListing result;
-    const DirHandle dir = openDirectory(path);
-    if (!dir) {
-        result.error = errno;
+    OpenDirectory directory(path);
+    const DirHandle stream = streamOf(&directory);
+    if (!stream) {
+        result.error = directory.error() ? directory.error() : errno;
         return result;
     }
-    const RowMaker maker(dirfd(dir.get()), path, filters);
-    result.entries = Listing(dir.get(), maker, cancel).run();
+    const RowMaker maker(dirfd(stream.get()), path, filters);
+    result.entries = Listing(stream.get(), maker, cancel).run();
     return result;
 }
 
 bool hasSubdirectory(const QString &path)
 {
-    const DirHandle dir = openDirectory(path);
+    OpenDirectory directory(path);
+    const DirHandle dir = streamOf(&directory);
     if (!dir)
         return false;
     while (const dirent *const found = readdir(dir.get())) {

@@ -112,6 +112,26 @@ LocalFacts LocalFacts::of(const struct stat &own, const struct stat *target, con
     return facts;
 }
 
+bool LocalFacts::is(EntryTrait trait) const
+{
+    switch (trait) {
+    case EntryTrait::Exists:
+        return flags & Exists;
+    case EntryTrait::File:
+        return !is(EntryTrait::Dir);
+    case EntryTrait::Dir:
+        return kind == Entry::Dir || kind == Entry::DirLink;
+    case EntryTrait::SymLink:
+        return flags & SymLink;
+    case EntryTrait::Hidden:
+        return flags & Hidden;
+    case EntryTrait::Executable:
+        return flags & Executable;
+    default:
+        return false;
+    }
+}
+
 LocalFacts LocalFacts::of(const QByteArray &path, bool archivesAsFiles)
 {
     struct stat own;
@@ -149,24 +169,7 @@ int LocalEntryData::type() const
 
 bool LocalEntryData::is(EntryTrait trait) const
 {
-    switch (trait) {
-    case EntryTrait::Exists:
-        return m_flags & LocalFacts::Exists;
-    case EntryTrait::File:
-        return !is(EntryTrait::Dir);
-    case EntryTrait::Dir:
-        return m_kind == Entry::Dir || m_kind == Entry::DirLink;
-    case EntryTrait::SymLink:
-        return m_flags & LocalFacts::SymLink;
-    case EntryTrait::Hidden:
-        return m_flags & LocalFacts::Hidden;
-    case EntryTrait::Executable:
-        return m_flags & LocalFacts::Executable;
-    case EntryTrait::FSRoot:
-        return m_nameSize == 0;
-    default:
-        return false;
-    }
+    return trait == EntryTrait::FSRoot ? m_nameSize == 0 : LocalFacts{m_size, m_kind, m_flags}.is(trait);
 }
 
 QString LocalEntryData::localPath() const

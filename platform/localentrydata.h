@@ -29,6 +29,8 @@ struct LocalFacts
     /// @param archivesAsFiles gives archives the kind of files
     static LocalFacts of(const struct stat &own, const struct stat *target, const char *name, int nameSize,
                          bool archivesAsFiles);
+    /// What kind and flags alone tell; false for everything else.
+    bool is(EntryTrait trait) const;
     /// Looks at the disk; without the flag Exists where there is nothing.
     static LocalFacts of(const QByteArray &path, bool archivesAsFiles = false);
 };

@@ -9,6 +9,7 @@
 #include "localentrywatcher.h"
 #include "localurls.h"
 #include "pathcodec.h"
+#include "walklister.h"
 
 #include <QDir>
 
@@ -156,7 +157,9 @@ EntryList LocalVfs::childs(const Entry &entry, EntryChildFilters filters, QAtomi
             places.append(makeLocalEntry(QStringLiteral("/")));
         return places;
     }
-    DirectoryListing listing = listDirectory(directory, filters, cancel);
+    const bool isWalk = filters.testFlag(RecursiveListing) && !filters.testFlag(ContainersOnly);
+    DirectoryListing listing = isWalk ? listForWalk(directory, filters.testFlag(ArchivesAsFiles), cancel)
+                                      : listDirectory(directory, filters, cancel);
     *error = listing.error;
     return listing.entries;
 }

@@ -91,6 +91,14 @@ bool isAscii(const QString &text)
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
+bool isAscii(const char *bytes, int size)
+{
+    uchar bits = 0; // of all together: a loop without an exit runs on many bytes at a time
+    for (int i = 0; i < size; ++i)
+        bits |= uchar(bytes[i]);
+    return bits < 0x80;
+}
+
 bool holdsEscapes(const QString &text)
 {
     // The high surrogate of all escapes; it leads private-use code points only, which are too rare to be looked at.
@@ -133,11 +141,13 @@ int PathCodec::decode(const char *bytes, int size, QChar *units, bool *escaped)
     return int(out - units);
 }
 
-QString PathCodec::decode(const QByteArray &bytes)
+QString PathCodec::decode(const char *bytes, int size)
 {
-    QString text(bytes.size() * unitsPerByte, Qt::Uninitialized);
+    if (isAscii(bytes, size)) // as most names are
+        return QString::fromLatin1(bytes, size);
+    QString text(size * unitsPerByte, Qt::Uninitialized);
     bool escaped = false;
-    text.resize(decode(bytes.constData(), bytes.size(), text.data(), &escaped));
+    text.resize(decode(bytes, size, text.data(), &escaped));
     return text;
 }
 

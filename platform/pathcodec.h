@@ -26,7 +26,8 @@ public:
     /// @param escaped set to true when bytes had to be escaped, otherwise left alone
     /// Returns the number of units written.
     static int decode(const char *bytes, int size, QChar *units, bool *escaped);
-    static QString decode(const QByteArray &bytes);
+    static QString decode(const char *bytes, int size);
+    static QString decode(const QByteArray &bytes) { return decode(bytes.constData(), bytes.size()); }
 
     /// The bytes on the disk; null for a text that no name on the disk has (a NUL, half of a surrogate pair).
     static QByteArray encode(const QString &path);

@@ -3,6 +3,8 @@
 
 #include <veskfm/entryenumerator.h>
 
+#include <utility>
+
 namespace VeskFM
 {
 
@@ -57,8 +59,9 @@ Entry EntryEnumerator::getNextEntry()
     if (m_pending.isEmpty())
         return {};
 
-    const Entry entry = m_pending.top().entries.at(m_pending.top().position++);
-    if (m_includeSubdirs && entry.isDir() && !entry.isSymLink()) {
+    Level &top = m_pending.top();
+    const Entry entry = std::move(top.entries[top.position++]); // what the walk is done with takes no room
+    if (m_includeSubdirs && !entry.isSymLink() && entry.isDir()) {
         VFS::EntryChildFilters filters = VFS::RecursiveListing;
         filters.setFlag(VFS::NoArchiveDescent, !m_includeArchives);
         pushChilds(entry, filters);

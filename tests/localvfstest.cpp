@@ -44,6 +44,7 @@ private Q_SLOTS:
     void keepsLookalikeNamesApart();
     void takesPathsAsTheSystemDoes();
     void knowsWhatItListed();
+    void tellsTheSameInAWalk();
     void filtersChildren();
     void deliversTheDefaultOrderBackwards();
     void climbsToTheComputer();
@@ -160,6 +161,42 @@ void LocalVfsTest::knowsWhatItListed()
     QCOMPARE(EntryList({tree.entry("broken"), tree.entry("l-file")}).brokenSymlinks(), EntryList(tree.entry("broken")));
 }
 
+void LocalVfsTest::tellsTheSameInAWalk()
+{
+    TestTree tree({"file", ".dir/x", "a.zip", "caf\xe9", "\xc3\xa9", "names only/n.zip", "names only/d/", "closed/f"});
+    chmod(tree.bytes("file").constData(), 0755);
+    mkfifo(tree.bytes("pipe.zip").constData(), 0644);
+    tree.link("l-dir", tree.bytes(".dir"));
+    tree.link("l.zip", "a.zip");
+    tree.link("l-\xff", "caf\xe9");
+    tree.link("broken", "nowhere");
+    tree.link("names only/l", "n.zip");
+    chmod(tree.bytes("names only").constData(), 0444); // who is not root learns names, and nothing behind them
+    chmod(tree.bytes("closed").constData(), 0);
+    const auto facts = [](const Entry &entry) {
+        return QStringList({description(entry), entry.path(), entry.localPath(), entry.lastPathSection(),
+                            entry.symLinkTarget(), QString::number(entry.fileSize()), QString::number(entry.isExists()),
+                            QString::number(entry.isFile()), entry.archiveMountPointOrLocalPath()});
+    };
+    for (const Entry &directory : {tree.entry(), tree.entry("names only"), tree.entry("closed"), tree.entry("file")}) {
+        for (const VFS::EntryChildFilter filter : {VFS::PlainListing, VFS::ArchivesAsFiles}) {
+            QSet<QStringList> eager;
+            for (const Entry &entry : listed(directory, filter))
+                eager += facts(entry);
+            QSet<QStringList> walked;
+            for (const Entry &entry : listed(directory, VFS::RecursiveListing | filter))
+                walked += facts(entry);
+            QCOMPARE(walked, eager);
+        }
+    }
+    chmod(tree.bytes("names only").constData(), 0755);
+    chmod(tree.bytes("closed").constData(), 0755);
+    const EntryList late = listed(tree.entry("names only"), VFS::RecursiveListing);
+    tree.remove("names only");
+    QCOMPARE(late.size(), 3);
+    QVERIFY(std::none_of(late.begin(), late.end(), [](const Entry &entry) { return entry.isExists(); }));
+}
+
 void LocalVfsTest::filtersChildren()
 {
     TestTree tree({"file", "dir/sub/", "flat/a.zip"});
@@ -265,11 +302,13 @@ void LocalVfsTest::answersManyThreads()
 {
     TestTree tree({"d/x", "d/y.zip", "d/z/"});
     const Entry shared = VFS::ptr()->parent(tree.entry("d/x")); // not looked at yet
+    const Entry walked = listed(tree.entry(), VFS::RecursiveListing).first();
     std::atomic<int> wrong{0};
     const auto work = [&] {
         for (int i = 0; i < 50; ++i) {
             const EntryList children = VFS::ptr()->childs(shared, VFS::PlainListing, nullptr);
-            wrong += children.size() != 3 || !shared.isDir() || VFS::ptr()->pathEntryList(children.first()).size() < 4
+            wrong += children.size() != 3 || !shared.isDir() || !walked.isExecutable()
+                || VFS::ptr()->pathEntryList(children.first()).size() < 4
                 || VFS::ptr()->isOnSlowFileSystem(children.first().path(), QString());
         }
     };
