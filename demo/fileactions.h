@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include "operationtracker.h"
-
 #include <veskplatform/entrylist.h>
 
 #include <QList>
 #include <QObject>
-#include <QPointer>
 
+#include <functional>
+
+class FileWork;
 class Pane;
 class QAction;
 class QKeySequence;
@@ -18,8 +18,7 @@ class QMenu;
 class QPoint;
 class QWidget;
 
-/// What can be done with the directory of a pane and its selected rows: the actions with their keys, drops, and new
-/// names in place. The work is done by the services on the session bus.
+/// What can be done with the directory of a pane and its selected rows: the actions with their keys, and drops.
 class FileActions : public QObject
 {
     Q_OBJECT
@@ -36,15 +35,11 @@ public:
     /// @param last  actions that come behind ours
     void showMenu(const QPoint &globalPosition, const QList<QAction *> &last);
 
-    void open(const VeskFM::EntryList &entries, bool chooseApplication);
-    void transfer(const VeskFM::EntryList &entries, const VeskFM::Entry &target, bool move);
-
-Q_SIGNALS:
-    void message(const QString &text, bool lasting);
+    FileWork *work() const { return m_work; } ///< that does it
 
 private:
     QAction *add(QList<QAction *> *menu, const char *name, const QString &text, const QString &iconName,
-                 const QList<QKeySequence> &keys, void (FileActions::*slot)());
+                 const QList<QKeySequence> &keys, const std::function<void()> &slot);
     void addSeparator(QList<QAction *> *menu);
     void createFileMenu();
     void createEditMenu();
@@ -52,42 +47,25 @@ private:
     void fillTemplates();
 
     void openSelection();
-    void openWith();
-    void copy();
-    void cut();
-    void paste();
-    void copyToOther();
-    void moveToOther();
-    void rename();
-    void trash();
-    void restore();
-    void remove();
-    void makeFolder();
-    void makeFile(const QString &templatePath, const QString &name);
-    void await(const VeskFM::Entry &entry, bool renames);
-    void showMade(const VeskFM::EntryList &entries, VeskFM::FOps::OperationType type);
-    void showAwaited();
 
     VeskFM::EntryList selection() const;
-    VeskFM::Entry freeEntry(const QString &baseName, const QString &suffix) const;
 
     QWidget *m_window;       // these three borrowed
     Pane *m_pane = nullptr;  // the active one
     Pane *m_other = nullptr; // may be null
-    OperationTracker m_operations;
+    FileWork *m_work;
     QList<QAction *> m_fileMenu;
     QList<QAction *> m_editMenu;
     QList<QAction *> m_onSelection; // make sense with selected rows only
     QList<QAction *> m_onChange;    // and where something can be changed
     QList<QAction *> m_onWritable;  // need no selection
     QAction *m_rename = nullptr;
+    QAction *m_trash = nullptr;
+    QAction *m_delete = nullptr;
     QAction *m_restore = nullptr;
+    QAction *m_emptyTrash = nullptr;
     QAction *m_paste = nullptr;
     QAction *m_copyToOther = nullptr;
     QAction *m_moveToOther = nullptr;
     QMenu *m_templates = nullptr;
-    QPointer<Pane> m_awaitingPane;
-    VeskFM::Entry m_awaited;       // just made; gets the cursor when its row arrives
-    bool m_renamesAwaited = false; // and a name
-    bool m_openerSeen = false;     // the service that opens was there once
 };

@@ -6,6 +6,7 @@
 #include "containers.h"
 #include "directoryview.h"
 #include "fileactions.h"
+#include "filework.h"
 #include "filterbar.h"
 #include "kiosk.h"
 #include "options.h"
@@ -152,7 +153,10 @@ void MainWindow::followPane(Pane *pane)
     connect(pane->views(), &EntryViews::tabPressed, m_actions->otherPane, &QAction::trigger);
     connect(pane->views(), &EntryViews::menuRequested, this, [this, pane](const QPoint &position) {
         setActivePane(pane);
-        m_files->showMenu(position, {m_actions->properties});
+        QList<QAction *> last{m_actions->properties};
+        if (Settings::ptr()->showViewSettingsInDirViewCtxMenu())
+            last = QList<QAction *>{m_actions->sortMenu->menuAction(), m_actions->hidden} + last;
+        m_files->showMenu(position, last);
     });
 }
 
@@ -217,7 +221,7 @@ void MainWindow::connectActions()
         QMessageBox::about(this, tr("About"),
                            tr("A file manager that shows what libveskfmcore %1 can do.").arg(Core::version()));
     });
-    connect(m_files, &FileActions::message, this, &MainWindow::showMessage);
+    connect(m_files->work(), &FileWork::message, this, &MainWindow::showMessage);
 }
 
 void MainWindow::connectViewActions()
@@ -265,7 +269,7 @@ void MainWindow::connectPanel()
     });
     connect(m_panel, &SidePanel::entriesDropped, m_files,
             [this](const EntryList &entries, const Entry &target, Qt::DropAction action) {
-                m_files->transfer(entries, target, action == Qt::MoveAction);
+                m_files->work()->transfer(entries, target, action == Qt::MoveAction);
             });
 }
 

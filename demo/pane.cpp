@@ -12,6 +12,7 @@
 
 #include <veskfm/entryviewparameters.h>
 #include <veskfm/modelfilter.h>
+#include <veskfm/settings.h>
 #include <veskplatform/entrywatcher.h>
 #include <veskplatform/vfs.h>
 
@@ -119,6 +120,11 @@ bool Pane::isWritable() const
     return m_writable;
 }
 
+bool Pane::hasTrash() const
+{
+    return m_writable && (!m_onNetwork || Settings::ptr()->allowTrashActionFromNetwork());
+}
+
 bool Pane::canGoUp() const
 {
     return !parentToShow(directory()).isNull();
@@ -214,7 +220,8 @@ bool Pane::showDirectory(const Entry &container)
     }
     Q_EMIT message(QString());
     m_model->rebuild(directory);
-    m_writable = archiveAround(directory).isNull() && !(directory.isPlace() && directory.localPath().isEmpty());
+    m_writable = !directory.isPlace() && archiveAround(directory).isNull();
+    m_onNetwork = VFS::ptr()->isOnNonHomeNetworkFileSystem(directory);
     m_pathBar->setDirectory(directory);
     return true;
 }

@@ -31,6 +31,7 @@ public:
 
     VeskFM::Entry directory() const; ///< null before the first openDirectory()
     bool isWritable() const;         ///< whether something can be made here, as far as can be told without trying
+    bool hasTrash() const;           ///< whether what is here may be moved to the trash
     bool canGoBack() const { return m_history.hasEarlier(); }
     bool canGoForward() const { return m_history.hasLater(); }
     bool canGoUp() const;
@@ -67,4 +68,5 @@ private:
     DirectoryHistory m_history;
     VeskFM::Entry m_cursor; // gets the cursor when its directory has been listed
     bool m_writable = false;
+    bool m_onNetwork = false;
 };

@@ -109,7 +109,8 @@ void SidePanel::showInPlaces(const Entry &directory)
 void SidePanel::showInTree(const Entry &directory)
 {
     const Entry local = directory.isPlace() ? VFS::ptr()->entry(directory.localPath()) : directory;
-    const QModelIndexList path = m_treeModel->pathIndexList(local);
+    const bool isTrash = directory.isTrashDirPlace(); // its place tells enough
+    const QModelIndexList path = isTrash ? QModelIndexList() : m_treeModel->pathIndexList(local);
     if (path.isEmpty()) {
         m_tree->clearSelection();
         return;

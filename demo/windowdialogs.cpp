@@ -5,6 +5,7 @@
 
 #include "containers.h"
 #include "fileactions.h"
+#include "filework.h"
 #include "findwindow.h"
 #include "kiosk.h"
 #include "mainwindow.h"
@@ -66,6 +67,6 @@ void WindowDialogs::open(const Entry &entry)
         m_window->raise();
         m_window->activateWindow();
     } else {
-        m_window->fileActions()->open(EntryList(entry), false);
+        m_window->fileActions()->work()->open(EntryList(entry), false);
     }
 }
