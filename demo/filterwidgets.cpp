@@ -8,8 +8,9 @@
 #include <veskfm/entrymatchvalidator.h>
 #include <veskfm/entrymatchwidget.h>
 
-#include <QEvent>
+#include <QCoreApplication>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -24,6 +25,7 @@ constexpr int barMargin = 4; // pixels
 FilterWidgets::FilterWidgets(Model *model, QWidget *bar, QWidget *parent)
     : QWidget(parent)
     , m_model(model)
+    , m_bar(bar)
 {
     setObjectName(QStringLiteral("filterWidgets"));
     auto *const layout = new QVBoxLayout(this);
@@ -39,6 +41,15 @@ bool FilterWidgets::eventFilter(QObject *watched, QEvent *event)
     else if (event->type() == QEvent::HideToParent)
         close();
     return QWidget::eventFilter(watched, event);
+}
+
+// Escape closes the bar wherever it is pressed.
+void FilterWidgets::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        QCoreApplication::sendEvent(m_bar, event);
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void FilterWidgets::open()

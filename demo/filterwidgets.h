@@ -27,6 +27,7 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void open();
@@ -34,6 +35,7 @@ private:
     void apply();
 
     QPointer<VeskFM::Model> m_model;
+    QWidget *m_bar;
     QWidget *m_content = nullptr;                     // child, made anew each time: so nothing is set at first
     QList<VeskFM::EntryMatchWidget *> m_matchWidgets; // in it
     bool m_filters = false;                           // the model has validators

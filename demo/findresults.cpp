@@ -11,6 +11,10 @@
 #include <veskplatform/vfs.h>
 
 #include <QMimeData>
+#include <QtConcurrentRun>
+
+#include <algorithm>
+#include <numeric>
 
 using namespace VeskFM;
 
@@ -25,11 +29,13 @@ FindResults::FindResults(QObject *parent)
 {
     m_properties->startProcessing();
     connect(m_properties, &PropertyEnumerator::dataHoldersUpdated, this, &FindResults::showValues);
+    connect(&m_sorter, &QFutureWatcherBase::finished, this, &FindResults::takeSorted);
 }
 
 FindResults::~FindResults()
 {
     releaseHolders();
+    m_entries.clearInBackground();
     m_properties->stopProcessing();
 }
 
@@ -37,26 +43,31 @@ void FindResults::clear(const Entry &start)
 {
     beginResetModel();
     releaseHolders();
-    m_entries = {};
+    m_sorter.setFuture({}); // what is being sorted is not wanted any more
+    m_entries.clearInBackground();
+    m_places.clear();
     m_start = start.localPath().isEmpty() ? start.path() : start.localPath();
     if (!m_start.endsWith(QLatin1Char('/')))
         m_start += QLatin1Char('/');
     endResetModel();
 }
 
-void FindResults::append(const Entry *entries, int count)
+void FindResults::append(Entry *entries, int count)
 {
     if (count <= 0)
         return;
-    const int first = int(m_entries.size());
+    const int first = rowCount();
     beginInsertRows({}, first, first + count - 1);
-    m_entries.insert(m_entries.end(), entries, entries + count);
+    for (int i = 0; i < count; ++i) {
+        m_places.push_back(int(m_entries.size()));
+        m_entries.append(std::move(entries[i]));
+    }
     endInsertRows();
 }
 
 Entry FindResults::entry(int row) const
 {
-    return row >= 0 && size_t(row) < m_entries.size() ? m_entries[size_t(row)] : Entry();
+    return row >= 0 && row < rowCount() ? m_entries.at(size_t(m_places[size_t(row)])) : Entry();
 }
 
 QString FindResults::internalColumnName(int column) const
@@ -65,9 +76,37 @@ QString FindResults::internalColumnName(int column) const
                                   : m_properties->propertyNameData(propertyOf(column), Model::SortKeyRole).toString();
 }
 
+bool FindResults::isSortable(int column) const
+{
+    return column <= FolderColumn || internalColumnName(column) == QLatin1String("Size");
+}
+
+void FindResults::sort(int column, Qt::SortOrder order)
+{
+    if (column < 0 || !isSortable(column))
+        return;
+    const EntryOrder by = column == NameColumn ? EntryOrder::Name
+        : column == FolderColumn               ? EntryOrder::Folder
+                                               : EntryOrder::Size;
+    m_sorter.setFuture(QtConcurrent::run(&sortedPlaces, m_entries, by, order == Qt::DescendingOrder));
+}
+
+void FindResults::takeSorted()
+{
+    if (m_sorter.isCanceled()) // nothing was asked for
+        return;
+    const std::vector<int> sorted = m_sorter.result();
+    m_sorter.setFuture({});
+    beginResetModel();
+    releaseHolders();
+    std::copy(sorted.begin(), sorted.end(), m_places.begin()); // there may be more rows by now, behind them
+    std::iota(m_places.begin() + long(sorted.size()), m_places.end(), int(sorted.size()));
+    endResetModel();
+}
+
 int FindResults::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(m_entries.size());
+    return parent.isValid() ? 0 : int(m_places.size());
 }
 
 int FindResults::columnCount(const QModelIndex &parent) const
@@ -85,7 +124,7 @@ QVariant FindResults::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
-    const Entry &found = m_entries[size_t(index.row())];
+    const Entry found = entry(index.row());
     if (index.column() != FolderColumn)
         return holder(index.row())->propertyValueData(found, propertyOf(index.column()), role, m_properties);
     return role == Qt::DisplayRole || role == Qt::ToolTipRole ? folderOf(found) : QVariant();
@@ -139,7 +178,7 @@ PropertyDataHolder *FindResults::holder(int row) const
         return known;
     if (m_rowsWithHolders.size() >= mostHolders)
         releaseHolder(m_rowsWithHolders.dequeue());
-    const Entry &found = m_entries[size_t(row)];
+    const Entry found = entry(row);
     PropertyDataHolder *const made = m_properties->allocPropertyDataHolder(found);
     m_holders.insert(row, made);
     m_rowsOfHolders.insert(made, row);

@@ -3,10 +3,13 @@
 
 #pragma once
 
+#include "entrysorter.h"
+
 #include <veskfm/entrypropertyrequest.h>
 #include <veskplatform/entrylist.h>
 
 #include <QAbstractTableModel>
+#include <QFutureWatcher>
 #include <QHash>
 #include <QQueue>
 
@@ -29,10 +32,15 @@ public:
     explicit FindResults(QObject *parent = nullptr);
     ~FindResults() override;
 
-    void clear(const VeskFM::Entry &start); ///< folders are shown relative to @p start from now on
-    void append(const VeskFM::Entry *entries, int count);
-    VeskFM::Entry entry(int row) const;           ///< null out of range
-    QString internalColumnName(int column) const; ///< empty for the folder
+    void clear(const VeskFM::Entry &start);         ///< folders are shown relative to @p start from now on
+    void append(VeskFM::Entry *entries, int count); ///< takes them out of the array
+    VeskFM::Entry entry(int row) const;             ///< null out of range
+    QString internalColumnName(int column) const;   ///< empty for the folder
+
+    /// Puts the rows into another order as soon as a worker has found it; rows that come meanwhile and later follow behind.
+    /// Ignored for a column that has no order here.
+    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
+    bool isSortable(int column) const;
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -45,6 +53,7 @@ public:
 
 private:
     static int propertyOf(int column);
+    void takeSorted();
     QString folderOf(const VeskFM::Entry &entry) const;
     VeskFM::PropertyDataHolder *holder(int row) const;
     void releaseHolder(int row) const;
@@ -52,7 +61,9 @@ private:
     void showValues(const VeskFM::EntryPropertyRequestList &requests);
 
     VeskFM::PropertyEnumerator *const m_properties; // borrowed from Props
-    std::vector<VeskFM::Entry> m_entries;
+    EntryStore m_entries;
+    std::vector<int> m_places; // in the store, by row
+    QFutureWatcher<std::vector<int>> m_sorter;
     QString m_start;                                                        // path, with "/" at its end
     mutable QHash<int, VeskFM::PropertyDataHolder *> m_holders;             // by row, one reference each
     mutable QHash<const VeskFM::PropertyDataHolder *, int> m_rowsOfHolders; // the other way round

@@ -8,6 +8,7 @@
 #include "findresults.h"
 #include "findthread.h"
 #include "printabletext.h"
+#include "propertiesdialog.h"
 #include "retiredthread.h"
 
 #include <veskfm/clipboard.h>
@@ -23,6 +24,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 using namespace VeskFM;
@@ -122,6 +124,10 @@ void FindWindow::layOutColumns()
 {
     QHeaderView *const header = m_view->horizontalHeader();
     header->setHighlightSections(false);
+    header->setSectionsClickable(true);
+    header->setSortIndicatorShown(true);
+    header->setSortIndicator(-1, Qt::AscendingOrder); // as found
+    connect(header, &QHeaderView::sortIndicatorChanged, this, &FindWindow::sort);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->setSectionResizeMode(QHeaderView::Interactive); // fitting the contents would ask every row
     header->setSectionResizeMode(FindResults::FolderColumn, QHeaderView::Stretch);
@@ -154,6 +160,10 @@ void FindWindow::createActions()
     m_menu->addSeparator();
     connect(addAction(QStringLiteral("copy"), tr("Copy"), QStringLiteral("edit-copy"), QKeySequence::Copy),
             &QAction::triggered, this, &FindWindow::copySelection);
+    m_menu->addSeparator();
+    QAction *const properties = addAction(QStringLiteral("properties"), tr("Properties…"),
+                                          QStringLiteral("document-properties"), Qt::ALT + Qt::Key_Return);
+    connect(properties, &QAction::triggered, this, [this] { PropertiesDialog::open(selection(), this); });
     m_view->addActions(m_menu->actions());
     connect(m_view, &QWidget::customContextMenuRequested, this, [this](const QPoint &position) {
         if (current().isNull())
@@ -229,7 +239,7 @@ bool FindWindow::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_view && event->type() == QEvent::KeyPress) {
         const auto *const key = static_cast<QKeyEvent *>(event);
         const bool isReturn = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-        if (isReturn && key->modifiers().testFlag(Qt::ControlModifier) == false && !current().isNull()) {
+        if (isReturn && !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) && !current().isNull()) {
             Q_EMIT openRequested(current()); // and not the button of the dialog
             return true;
         }
@@ -247,7 +257,8 @@ void FindWindow::takeResults()
             m_arrived = std::move(found);
             m_shown = 0;
         } else {
-            m_arrived.insert(m_arrived.end(), found.begin(), found.end());
+            m_arrived.insert(m_arrived.end(), std::make_move_iterator(found.begin()),
+                             std::make_move_iterator(found.end()));
         }
     }
     const size_t count = std::min(m_arrived.size() - m_shown, size_t(mostRowsPerBatch));
@@ -259,9 +270,20 @@ void FindWindow::takeResults()
         showState();
 }
 
+void FindWindow::sort()
+{
+    QHeaderView *const header = m_view->horizontalHeader();
+    const int column = header->sortIndicatorSection();
+    if (column >= 0 && !m_results->isSortable(column))
+        header->setSortIndicator(-1, Qt::AscendingOrder);
+    else
+        m_results->sort(column, header->sortIndicatorOrder());
+}
+
 void FindWindow::conclude()
 {
     m_batchTimer.stop();
+    sort(); // also those that came later
     m_arrived = {};
     m_shown = 0;
     enableActions();

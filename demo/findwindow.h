@@ -51,6 +51,7 @@ private:
     void createActions();
     QAction *addAction(const QString &name, const QString &text, const QString &iconName, const QKeySequence &key);
     void takeResults();
+    void sort();
     void conclude();
     void showState();
     void enableActions();
