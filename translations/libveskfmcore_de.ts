@@ -191,6 +191,82 @@
         <source>The permissions of these could not be read or changed:</source>
         <translation>Die Rechte dieser Dateien konnten nicht gelesen oder geändert werden:</translation>
     </message>
+    <message>
+        <source>Match case</source>
+        <translation>Groß-/Kleinschreibung</translation>
+    </message>
+    <message>
+        <source>Contains text</source>
+        <translation>Enthält Text</translation>
+    </message>
+    <message>
+        <source>at any time</source>
+        <translation>irgendwann</translation>
+    </message>
+    <message>
+        <source>in the last hour</source>
+        <translation>in der letzten Stunde</translation>
+    </message>
+    <message>
+        <source>in the last 24 hours</source>
+        <translation>in den letzten 24 Stunden</translation>
+    </message>
+    <message>
+        <source>in the last 7 days</source>
+        <translation>in den letzten 7 Tagen</translation>
+    </message>
+    <message>
+        <source>in the last 30 days</source>
+        <translation>in den letzten 30 Tagen</translation>
+    </message>
+    <message>
+        <source>in the last 365 days</source>
+        <translation>in den letzten 365 Tagen</translation>
+    </message>
+    <message>
+        <source>Not all permissions could be changed.</source>
+        <translation>Nicht alle Rechte konnten geändert werden.</translation>
+    </message>
+    <message>
+        <source>Changing permissions …</source>
+        <translation>Rechte werden geändert …</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>KB</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>MB</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>GB</translation>
+    </message>
+    <message>
+        <source>from</source>
+        <translation>von</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>bis</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>beliebig</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
 </context>
 <context>
     <name>FileOperations</name>

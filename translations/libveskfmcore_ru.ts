@@ -195,6 +195,82 @@
         <source>The permissions of these could not be read or changed:</source>
         <translation>Не удалось прочитать или изменить права этих файлов:</translation>
     </message>
+    <message>
+        <source>Match case</source>
+        <translation>С учётом регистра</translation>
+    </message>
+    <message>
+        <source>Contains text</source>
+        <translation>Содержит текст</translation>
+    </message>
+    <message>
+        <source>at any time</source>
+        <translation>в любое время</translation>
+    </message>
+    <message>
+        <source>in the last hour</source>
+        <translation>за последний час</translation>
+    </message>
+    <message>
+        <source>in the last 24 hours</source>
+        <translation>за последние 24 часа</translation>
+    </message>
+    <message>
+        <source>in the last 7 days</source>
+        <translation>за последние 7 дней</translation>
+    </message>
+    <message>
+        <source>in the last 30 days</source>
+        <translation>за последние 30 дней</translation>
+    </message>
+    <message>
+        <source>in the last 365 days</source>
+        <translation>за последние 365 дней</translation>
+    </message>
+    <message>
+        <source>Not all permissions could be changed.</source>
+        <translation>Не все права удалось изменить.</translation>
+    </message>
+    <message>
+        <source>Changing permissions …</source>
+        <translation>Права изменяются …</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>Б</translation>
+    </message>
+    <message>
+        <source>KB</source>
+        <translation>КБ</translation>
+    </message>
+    <message>
+        <source>MB</source>
+        <translation>МБ</translation>
+    </message>
+    <message>
+        <source>GB</source>
+        <translation>ГБ</translation>
+    </message>
+    <message>
+        <source>from</source>
+        <translation>от</translation>
+    </message>
+    <message>
+        <source>to</source>
+        <translation>до</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>любой</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Единица</translation>
+    </message>
 </context>
 <context>
     <name>FileOperations</name>
