@@ -13,6 +13,7 @@
 #include <veskfm/model.h>
 #include <veskfm/settings.h>
 #include <veskfm/trash.h>
+#include <veskplatform/newentry.h>
 #include <veskplatform/vfs.h>
 
 #include <QAction>

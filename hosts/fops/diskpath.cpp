@@ -3,6 +3,7 @@
 
 #include "diskpath.h"
 
+#include <veskplatform/newentry.h>
 #include <veskplatform/vfs.h>
 
 #include <fcntl.h>
@@ -13,22 +14,6 @@ using namespace VeskFM;
 
 namespace
 {
-
-/// Only a path, of whatever may or may not be there. The VFS knows how the paths of the disk are written.
-class PathData : public EntryData
-{
-public:
-    explicit PathData(const QString &path)
-        : m_path(path)
-    {
-    }
-    QString path() const override { return m_path; }
-    int type() const override { return Entry::File; }
-    bool is(EntryTrait) const override { return false; }
-
-private:
-    const QString m_path;
-};
 
 Descriptor openForLookup(const QByteArray &path)
 {
@@ -49,7 +34,7 @@ QByteArray diskBytes(const QString &vfsPath)
         path = VFS::ptr()->entry(path).localPath();
     if (!path.startsWith(QLatin1Char('/')))
         return {};
-    const QList<QUrl> urls = VFS::ptr()->urlsFromEntries(EntryList(Entry(new PathData(path))));
+    const QList<QUrl> urls = VFS::ptr()->urlsFromEntries(EntryList(newEntry(path)));
     if (urls.isEmpty() || !urls.first().isLocalFile())
         return {};
     return QByteArray::fromPercentEncoding(urls.first().path(QUrl::FullyEncoded).toLatin1());
@@ -58,7 +43,7 @@ QByteArray diskBytes(const QString &vfsPath)
 Entry entryOfPath(const QString &vfsPath)
 {
     const Entry present = VFS::ptr()->entry(vfsPath);
-    return present.isNull() && !vfsPath.isEmpty() ? Entry(new PathData(vfsPath)) : present;
+    return present.isNull() ? newEntry(vfsPath) : present;
 }
 
 QString vfsPath(const QByteArray &bytes)

@@ -15,7 +15,7 @@
 /// disk. A place is known by its directory.
 QByteArray diskBytes(const QString &vfsPath);
 
-/// An entry of a path, whether something is there or not.
+/// An entry of a path; of one of the disk whether something is there or not.
 VeskFM::Entry entryOfPath(const QString &vfsPath);
 
 /// The VFS path of bytes of the disk.
