@@ -3,16 +3,13 @@
 
 #include "filesystemkinds.h"
 
+#include "mounttable.h"
 #include "pathcodec.h"
-
-#include <QFile>
 
 #include <linux/magic.h>
 #include <sys/stat.h>
 #include <sys/statfs.h>
 #include <sys/sysmacros.h>
-
-#include <algorithm>
 
 namespace VeskFM
 {
@@ -21,29 +18,12 @@ namespace
 {
 constexpr int answerMs = 60000;
 
-/// The type of the mount with the device @p device, from the table of the kernel; empty if it is not there.
-QByteArray mountType(dev_t device)
+bool isMountedFromNetwork(dev_t device)
 {
-    QFile table(QStringLiteral("/proc/self/mountinfo"));
-    if (!table.open(QIODevice::ReadOnly))
-        return {};
-    const QByteArray id = QByteArray::number(major(device)) + ':' + QByteArray::number(minor(device));
-    const QList<QByteArray> lines = table.readAll().split('\n');
-    for (const QByteArray &line : lines) {
-        const QList<QByteArray> fields = line.split(' ');
-        const int separator = fields.indexOf("-"); // the number of fields before it varies
-        if (separator > 2 && separator + 1 < fields.size() && fields.at(2) == id)
-            return fields.at(separator + 1);
-    }
-    return {};
-}
-
-bool isNetworkFuse(const QByteArray &type)
-{
-    static const char *const known[] = {"fuse.sshfs",      "fuse.curlftpfs", "fuse.davfs2",
-                                        "fuse.gvfsd-fuse", "fuse.kio-fuse",  "fuse.rclone",
-                                        "fuse.s3fs",       "fuse.glusterfs", "fuse.smbnetfs"};
-    return std::any_of(std::begin(known), std::end(known), [&type](const char *name) { return type == name; });
+    const std::shared_ptr<const MountTable> table = MountTable::current();
+    const Mount *const mount =
+        table->ofDevice(QByteArray::number(major(device)) + ':' + QByteArray::number(minor(device)));
+    return mount && mount->isNetwork();
 }
 
 bool findOutNetwork(const QByteArray &path, dev_t device)
@@ -64,7 +44,7 @@ bool findOutNetwork(const QByteArray &path, dev_t device)
     case V9FS_MAGIC:
         return true;
     case FUSE_SUPER_MAGIC:
-        return isNetworkFuse(mountType(device));
+        return isMountedFromNetwork(device);
     default:
         return false;
     }

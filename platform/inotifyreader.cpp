@@ -140,7 +140,7 @@ void InotifyReader::readEvents()
 
 void InotifyReader::report(const inotify_event &event)
 {
-    if (event.mask & (IN_Q_OVERFLOW | IN_UNMOUNT)) {
+    if (event.mask & IN_Q_OVERFLOW) {
         m_handler->onEventsLost();
         return;
     }

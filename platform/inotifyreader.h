@@ -22,7 +22,7 @@ class InotifyHandler
 public:
     virtual ~InotifyHandler();
     virtual void onDirectoryEvent(const QByteArray &directory, quint32 mask, const QByteArray &name) = 0;
-    /// The kernel dropped events, or ended a watch by itself: anything may have changed anywhere.
+    /// The kernel dropped events: anything may have changed anywhere.
     virtual void onEventsLost() = 0;
     /// Called after each round. Returns in how many milliseconds to call it again at the latest; -1 for when it likes.
     virtual int onRound() = 0;

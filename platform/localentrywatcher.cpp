@@ -31,14 +31,6 @@ constexpr int mostBadEntries = 10000;
 
 std::atomic<LocalEntryWatcher *> runningWatcher{nullptr};
 
-/// The directory whose changes concern @p entry; empty for places that never change.
-QByteArray watchedDirectory(const Entry &entry)
-{
-    if (entry.isFavoritesPlace())
-        return PathCodec::encode(VFS::parentDirPath(LocalPlaces::bookmarksFile()));
-    return PathCodec::encode(LocalVfs::diskPath(entry));
-}
-
 QString childPath(const QString &directory, const QByteArray &name)
 {
     const QString text = PathCodec::decode(name);
@@ -48,6 +40,18 @@ QString childPath(const QString &directory, const QByteArray &name)
 QByteArray parentDirectory(const QByteArray &directory)
 {
     return PathCodec::encode(VFS::parentDirPath(PathCodec::decode(directory)));
+}
+
+/// The directory whose changes concern @p entry; empty for places that are not told of here. That of the favorites is
+/// where their file is, or where the way to it begins.
+QByteArray watchedDirectory(const Entry &entry)
+{
+    if (!entry.isFavoritesPlace())
+        return PathCodec::encode(LocalVfs::diskPath(entry));
+    QByteArray directory = parentDirectory(PathCodec::encode(FavoritePlaces::file()));
+    while (directory.size() > 1 && !FileIdentity::of(directory).exists)
+        directory = parentDirectory(directory);
+    return directory;
 }
 } // namespace
 
@@ -111,6 +115,8 @@ void LocalEntryWatcher::list(const Entry &entry, VFS::EntryChildFilters filters,
 {
     if (!directory.isEmpty())
         watch(directory); // first, so that there is no moment in which a change is neither listed nor noticed
+    if (entry.isFavoritesPlace())
+        followFavorites({entry, filters}, directory);
     int error = 0;
     const EntryList children = m_vfs->childs(entry, filters, &m_cancel, &error);
     if (error == EACCES || error == EPERM)
@@ -179,6 +185,16 @@ bool LocalEntryWatcher::rememberBadEntry(const Entry &entry)
     return true;
 }
 
+void LocalEntryWatcher::lookAgain(const QString &path)
+{
+    m_registry.setMoved(PathCodec::encode(path));
+    const auto wake = [this] {
+        if (m_running)
+            m_reader.wake();
+    };
+    QMetaObject::invokeMethod(this, wake, Qt::QueuedConnection);
+}
+
 void LocalEntryWatcher::onDirectoryEvent(const QByteArray &directory, quint32 mask, const QByteArray &name)
 {
     if (mask & (IN_DELETE_SELF | IN_MOVE_SELF | IN_IGNORED)) {
@@ -218,7 +234,33 @@ int LocalEntryWatcher::onRound()
     return nextDue == PendingChanges::never ? -1 : int(qMax<qint64>(nextDue - m_clock.elapsed(), 0));
 }
 
-void LocalEntryWatcher::tell(const DirectoryNews &news)
+/// The favorites are told one by one from elsewhere, as soon as everything is watched that may concern their file.
+void LocalEntryWatcher::tell(DirectoryNews news)
+{
+    const auto group = std::find_if(news.shown.begin(), news.shown.end(),
+                                    [](const ShownEntry &shown) { return shown.entry.isFavoritesPlace(); });
+    const ShownEntry favorites = group == news.shown.end() ? ShownEntry() : *group;
+    if (!favorites.entry.isNull())
+        news.shown.erase(group);
+    tellDirectory(news);
+    if (!favorites.entry.isNull())
+        followFavorites(favorites, news.directory);
+}
+
+/// @param directory  the watched one; another one is watched when the way to the file became longer or shorter
+void LocalEntryWatcher::followFavorites(const ShownEntry &group, const QByteArray &directory)
+{
+    QByteArray watched = directory;
+    for (QByteArray next = watchedDirectory(group.entry); next != watched; next = watchedDirectory(group.entry)) {
+        m_registry.beginListing(next, group.entry, group.filters);
+        watch(next);
+        m_registry.endListing(next);
+        watched = next;
+    }
+    m_vfs->followFavorites();
+}
+
+void LocalEntryWatcher::tellDirectory(const DirectoryNews &news)
 {
     const FileIdentity now = FileIdentity::of(news.directory);
     if (!now.exists) {
@@ -240,9 +282,8 @@ void LocalEntryWatcher::tell(const DirectoryNews &news)
         tellChange(childPath(directory, change.name), change.kinds, archivesAsFiles);
     }
     for (const ShownEntry &shown : news.shown) {
-        // New children belong to the directory, which nobody shows under a place; the favorites are inside a file.
-        const uint concerned = shown.entry.isFavoritesPlace() ? ~0u : uint(PendingChanges::Created);
-        if (shown.entry.path() != directory && (kinds & concerned))
+        // New children belong to the directory, which nobody shows under a place.
+        if (shown.entry.path() != directory && (kinds & PendingChanges::Created))
             Q_EMIT entryReset(shown.entry);
     }
 }

@@ -40,6 +40,8 @@ public:
     void listDir(const Entry &entry, VFS::EntryChildFilters filters) override;
     /// Remembers the entry and looks once whether it is still there; entryDeleted() if not.
     void addBadEntry(const Entry &entry) override;
+    /// Something else may be mounted at @p path now: what is shown of it and below it is listed again. Thread: any.
+    void lookAgain(const QString &path);
 
 private:
     void start();
@@ -55,7 +57,9 @@ private:
     void onDirectoryEvent(const QByteArray &directory, quint32 mask, const QByteArray &name) override;
     void onEventsLost() override;
     int onRound() override;
-    void tell(const DirectoryNews &news);
+    void tell(DirectoryNews news);
+    void tellDirectory(const DirectoryNews &news);
+    void followFavorites(const ShownEntry &group, const QByteArray &directory);
     void tellReset(const DirectoryNews &news);
     void tellVanished(const DirectoryNews &news);
     void tellChange(const QString &path, uint kinds, bool archivesAsFiles);

@@ -4,55 +4,19 @@
 #include "localplaces.h"
 
 #include "localentrydata.h"
-#include "localurls.h"
+#include "localentrywatcher.h"
 
-#include <QDir>
-#include <QFile>
-#include <QStandardPaths>
+#include <veskplatform/networkplaces.h>
 
-#include <bitset>
+#include <QAtomicInt>
 
 namespace VeskFM
 {
 
-namespace
-{
-constexpr qint64 largestBookmarksFile = 1 << 20; // bytes; nobody has that many
-const QLatin1String favoritesRoot("favorites:/");
-
-/// A virtual directory.
-class PlaceEntryData : public EntryData
-{
-public:
-    PlaceEntryData(const QString &path, const QString &name, const QString &localPath)
-        : m_path(path)
-        , m_name(name)
-        , m_localPath(localPath)
-    {
-        set(EntryTrait::Exists); // whether a directory behind it does is for its listing to find out
-        set(EntryTrait::Place);
-        set(localPath.isEmpty() ? EntryTrait::PurePlace : EntryTrait::DirPlace);
-    }
-    void set(EntryTrait trait) { m_traits.set(size_t(trait)); }
-
-    QString path() const override { return m_path; }
-    int type() const override { return Entry::VirtualDir; }
-    bool is(EntryTrait trait) const override { return m_traits.test(size_t(trait)); }
-    QString localPath() const override { return m_localPath; }
-    QString fileName() const override { return m_name; }
-
-private:
-    QString m_path;
-    QString m_name;
-    QString m_localPath;
-    std::bitset<64> m_traits;
-};
-} // namespace
-
-LocalPlaces::LocalPlaces()
+LocalPlaces::LocalPlaces(LocalEntryWatcher *watcher, QObject *context)
     : m_computer(makePlace(QStringLiteral("computer:/"), tr("Computer"), QString(),
                            {EntryTrait::Root, EntryTrait::ComputerPlace}))
-    , m_favorites(makePlace(favoritesRoot, tr("Favorites"), QString(), {EntryTrait::FavoritesPlace}))
+    , m_favorites(makePlace(QStringLiteral("favorites:/"), tr("Favorites"), QString(), {EntryTrait::FavoritesPlace}))
     , m_places(makePlace(QStringLiteral("places:/"), tr("Places"), QString(), {}))
     , m_storageDevices(
           makePlace(QStringLiteral("storage:/"), tr("Storage devices"), QString(), {EntryTrait::StorageDevicesPlace}))
@@ -65,6 +29,8 @@ LocalPlaces::LocalPlaces()
                      {EntryTrait::FileSystemRootPlace}),
            makePlace(QStringLiteral("places:/home"), tr("Home"), localHomePath(), {EntryTrait::HomeDirPlace}),
            makePlace(QStringLiteral("places:/trash"), tr("Trash"), localTrashPath(), {EntryTrait::TrashDirPlace})})
+    , m_favoritePlaces(m_favorites, watcher, context)
+    , m_storagePlaces(m_storageDevices, watcher, context)
 {
 }
 
@@ -76,24 +42,35 @@ bool LocalPlaces::isPlacePath(const QString &path)
 Entry LocalPlaces::makePlace(const QString &path, const QString &name, const QString &localPath,
                              std::initializer_list<EntryTrait> traits)
 {
-    auto *const data = new PlaceEntryData(path, name, localPath);
-    for (const EntryTrait trait : traits)
-        data->set(trait);
-    return Entry(data);
+    return Entry(new PlaceEntryData(path, PlaceFacts(name, localPath, traits)));
 }
 
 Entry LocalPlaces::entry(const QString &path) const
 {
     if (path == m_computer.path())
         return m_computer;
-    const EntryList candidates = path.startsWith(favoritesRoot) && path != favoritesRoot ? readFavorites() : m_groups;
-    for (const EntryList &list : {candidates, m_fixedPlaces}) {
+    for (const EntryList &list : {m_groups, m_fixedPlaces}) {
         for (const Entry &place : list) {
             if (place.path() == path)
                 return place;
         }
     }
-    return {};
+    if (!FavoritePlaces::target(path).isEmpty())
+        return m_favoritePlaces.entry(path);
+    if (!StoragePlaces::deviceId(path).isEmpty())
+        return m_storagePlaces.entry(path);
+    const NetworkPlaces *const network = NetworkPlaces::ptr();
+    return network && isPlacePath(path) ? network->entry(path) : Entry();
+}
+
+/// What NetworkPlaces has behind a place that is none of those here, or a favorite; null for others.
+Entry LocalPlaces::networkEntry(const Entry &place)
+{
+    const NetworkPlaces *const network = NetworkPlaces::ptr();
+    if (!network)
+        return {};
+    const QString target = FavoritePlaces::target(place.path());
+    return network->entry(target.isEmpty() ? place.path() : target);
 }
 
 Entry LocalPlaces::parent(const Entry &place) const
@@ -102,21 +79,59 @@ Entry LocalPlaces::parent(const Entry &place) const
         return m_computer;
     if (m_fixedPlaces.contains(place))
         return m_places;
-    return place.path().startsWith(favoritesRoot) ? m_favorites : Entry();
+    if (!FavoritePlaces::target(place.path()).isEmpty())
+        return m_favorites;
+    if (!StoragePlaces::deviceId(place.path()).isEmpty())
+        return m_storageDevices;
+    const NetworkPlaces *const network = NetworkPlaces::ptr();
+    return network && place != m_computer ? network->parent(place) : Entry();
 }
 
 EntryList LocalPlaces::childEntries(const Entry &entry) const
+{
+    return childEntries(entry, nullptr);
+}
+
+EntryList LocalPlaces::childEntries(const Entry &entry, QAtomicInt *cancel) const
 {
     if (entry == m_computer)
         return m_groups;
     if (entry == m_places)
         return m_fixedPlaces;
-    return entry == m_favorites ? readFavorites() : EntryList();
+    if (entry == m_favorites)
+        return m_favoritePlaces.entries();
+    if (entry == m_storageDevices)
+        return m_storagePlaces.entries();
+    const NetworkPlaces *const network = NetworkPlaces::ptr();
+    if (!network)
+        return {};
+    const bool isGroup = entry == m_network || entry == m_networkResources;
+    const Entry place = isGroup ? entry : networkEntry(entry);
+    return place.isNull() ? EntryList() : network->childs(place, cancel);
 }
 
 int LocalPlaces::placeOrderIndex(const Entry &place, const Entry &parent) const
 {
-    return childEntries(parent).indexOf(place);
+    if (parent == m_favorites)
+        return m_favoritePlaces.indexOf(place.path());
+    if (parent == m_storageDevices)
+        return m_storagePlaces.indexOf(place.path());
+    if (parent == m_computer)
+        return m_groups.indexOf(place);
+    if (parent == m_places)
+        return m_fixedPlaces.indexOf(place);
+    const NetworkPlaces *const network = NetworkPlaces::ptr();
+    return network ? network->orderIndex(place, parent) : -1;
+}
+
+bool LocalPlaces::mayContainContainers(const Entry &place) const
+{
+    if (m_groups.contains(place))
+        return !childEntries(place, nullptr).isEmpty();
+    if (place.isDirPlace() || place == m_computer)
+        return true;
+    const Entry network = networkEntry(place);
+    return !network.isNull() && NetworkPlaces::ptr()->mayContainContainers(network);
 }
 
 FavoritePlace LocalPlaces::favoritePlace(const Entry &entry) const
@@ -124,35 +139,9 @@ FavoritePlace LocalPlaces::favoritePlace(const Entry &entry) const
     return entry.isFavoritePlace() ? FavoritePlace(entry.fileName()) : FavoritePlace();
 }
 
-QString LocalPlaces::bookmarksFile()
+StoragePlace LocalPlaces::storagePlace(const Entry &entry) const
 {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
-        + QLatin1String("/gtk-3.0/bookmarks");
-}
-
-/// One line is a URL and, behind the first blank, the label of the user; without one the directory's name is shown.
-EntryList LocalPlaces::readFavorites() const
-{
-    EntryList favorites;
-    QFile file(bookmarksFile());
-    if (!file.open(QIODevice::ReadOnly) || file.isSequential())
-        return favorites;
-    const QList<QByteArray> lines = file.read(largestBookmarksFile).split('\n');
-    for (const QByteArray &line : lines) {
-        const int blank = line.indexOf(' ');
-        const QString target = pathFromFileUrl(QUrl::fromEncoded(blank < 0 ? line : line.left(blank)));
-        if (target.isEmpty())
-            continue; // a bookmark of a network, or no bookmark
-        const QString directory = QDir::cleanPath(target);
-        QString label = blank < 0 ? QString() : QString::fromUtf8(line.mid(blank + 1)).trimmed();
-        if (label.isEmpty())
-            label = directory == QLatin1String("/") ? directory : directory.section(QLatin1Char('/'), -1);
-        const Entry favorite =
-            makePlace(favoritesRoot + QLatin1String("at") + directory, label, directory, {EntryTrait::FavoritePlace});
-        if (!favorites.contains(favorite))
-            favorites.append(favorite);
-    }
-    return favorites;
+    return entry.isStoragePlace() ? m_storagePlaces.storagePlace(entry.path()) : StoragePlace();
 }
 
 } // namespace VeskFM

@@ -3,6 +3,7 @@
 
 #include "localvfs.h"
 
+#include "containerpeek.h"
 #include "deferredentrydata.h"
 #include "directorylister.h"
 #include "localentrydata.h"
@@ -63,6 +64,7 @@ LocalVfs::LocalVfs(QObject *parent)
     : VFS(parent)
     , m_home(new HomeEntryData)
     , m_watcher(new LocalEntryWatcher(this))
+    , m_places(m_watcher, this)
 {
 }
 
@@ -152,7 +154,7 @@ EntryList LocalVfs::childs(const Entry &entry, EntryChildFilters filters, QAtomi
 {
     const QString directory = diskPath(entry);
     if (directory.isEmpty()) {
-        EntryList places = m_places.childEntries(entry);
+        EntryList places = m_places.childEntries(entry, cancel);
         if (entry == m_places.computer())
             places.append(makeLocalEntry(QStringLiteral("/")));
         return places;
@@ -245,7 +247,11 @@ EntryList LocalVfs::entriesFromUrls(const QList<QUrl> &urls) const
 
 bool LocalVfs::mayContainContainers(const Entry &entry) const
 {
-    return entry.isDir() || entry.isPlace();
+    if (entry.isArchiveMountPoint())
+        return true;
+    if (entry.isPlace())
+        return m_places.mayContainContainers(entry);
+    return entry.isDir() && mayHoldContainers(entry.path());
 }
 
 bool LocalVfs::containsContainers(const Entry &entry) const
@@ -256,7 +262,9 @@ bool LocalVfs::containsContainers(const Entry &entry) const
 
 bool LocalVfs::isOnSlowFileSystem(const QString &path, const QString &localPath) const
 {
-    return m_fileSystems.isNetwork(localPath.isEmpty() ? path : localPath);
+    const QString disk = localPath.isEmpty() ? path : localPath;
+    return LocalPlaces::isPlacePath(disk)
+        || m_fileSystems.isNetwork(disk); // a place without a directory is a network's
 }
 
 bool LocalVfs::isOnNonHomeNetworkFileSystem(const Entry &entry) const
@@ -270,14 +278,29 @@ Entry LocalVfs::symLinkTargetEntry(const Entry &entry) const
     return entry.isSymLink() ? this->entry(entry.symLinkTarget()) : Entry();
 }
 
-StoragePlace LocalVfs::storagePlace(const Entry &) const
+StoragePlace LocalVfs::storagePlace(const Entry &entry) const
 {
-    return {};
+    return m_places.storagePlace(entry);
 }
 
 FavoritePlace LocalVfs::favoritePlace(const Entry &entry) const
 {
     return m_places.favoritePlace(entry);
+}
+
+void LocalVfs::followFavorites() const
+{
+    m_places.favoritePlaces()->follow();
+}
+
+void LocalVfs::lookAtFavorites() const
+{
+    m_places.favoritePlaces()->update();
+}
+
+void LocalVfs::lookAtStorage() const
+{
+    m_places.storagePlaces()->update();
 }
 
 VFSPlaceBase *LocalVfs::placeBase() const

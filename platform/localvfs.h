@@ -66,12 +66,16 @@ public:
     /// PathCodec writes them. Empty for what cannot be a path of the disk.
     static QString canonicalPath(const QString &path);
 
+    void followFavorites() const; ///< for who watches their file: at first, and after each change
+    void lookAtFavorites() const; ///< takes over what became different, and tells it; in the application's thread
+    void lookAtStorage() const;   ///< likewise
+
 private:
     const Entry m_home;
+    LocalEntryWatcher *const m_watcher; // child
     mutable LocalPlaces m_places;
     mutable LocalArchiveMounts m_archiveMounts;
     FileSystemKinds m_fileSystems;
-    LocalEntryWatcher *const m_watcher; // child
 };
 
 } // namespace VeskFM

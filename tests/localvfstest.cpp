@@ -148,7 +148,6 @@ void LocalVfsTest::knowsWhatItListed()
         descriptions += description(entry);
         QCOMPARE(description(tree.entry(entry.fileName())), descriptions.last());
         QVERIFY(entry.isExists() && !entry.isArchiveMountPoint() && !entry.isPlace());
-        QCOMPARE(VFS::ptr()->mayContainContainers(entry), entry.isDir());
     }
     descriptions.sort();
     QCOMPARE(

@@ -126,7 +126,7 @@ private Q_SLOTS:
     void followsOneDirectoryByItsPaths();
     void dropsARenamedDirectory();
     void tellsOnceThatADirectoryVanished();
-    void resetsPlacesAndFavorites();
+    void resetsPlaces();
     void resetsEverythingAfterAnOverflow();
     void tellsABadEntryThatIsGone();
     void letsGoOfDirectoriesThatNobodyShows();
@@ -283,23 +283,14 @@ void LocalWatcherTest::tellsOnceThatADirectoryVanished()
     QCOMPARE(log.lines.filter("alone") + log.lines.filter("below"), QStringList({"-alone", "-below"}));
 }
 
-void LocalWatcherTest::resetsPlacesAndFavorites()
+void LocalWatcherTest::resetsPlaces()
 {
     const Entry place = shown(VFS::ptr()->entry("places:/home"));
-    const QString config = QString::fromLocal8Bit(qgetenv("XDG_CONFIG_HOME")) + "/gtk-3.0";
-    QVERIFY(QDir().mkpath(config));
-    const Entry favorites = shown(VFS::ptr()->favoritesEntry());
     EventLog log(place.localPath());
     QFile created(place.localPath() + "/created");
     QVERIFY(created.open(QIODevice::WriteOnly));
     QTRY_VERIFY(log.lines.contains("!home"));
     QVERIFY(fileNames(list(place)).contains("created"));
-
-    QFile bookmarks(config + "/bookmarks");
-    QVERIFY(bookmarks.open(QIODevice::WriteOnly) && bookmarks.write("file:///usr Programs\n"));
-    bookmarks.close();
-    QTRY_VERIFY(log.lines.contains("!"));
-    QCOMPARE(fileNames(list(favorites)), QStringList({"Programs"}));
 }
 
 void LocalWatcherTest::resetsEverythingAfterAnOverflow()
