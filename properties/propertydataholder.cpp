@@ -114,6 +114,7 @@ void PropertyDataHolder::refinePropertyAtIndex(int property, const PropertyEnume
 
 void PropertyDataHolder::invalidate(int property, const PropertyEnumerator *enumerator)
 {
+    ++m_invalidations; // first: a worker that did not see it has set the masks by now
     m_prepared = 0;
     m_refined = 0;
     refinePropertyAtIndex(property, enumerator);

@@ -268,7 +268,7 @@ void PropertyEnumerator::updatePropertySets(const QVector<EntryPropertySet *> &s
         return;
     holder->incrementReferenceCount();
     ++holder->m_requestReferences;
-    m_requests.append({sets, holder, entry});
+    m_requests.append({sets, holder, entry, holder->m_invalidations});
     m_flushClock.start();
     processNextHolder();
 }
@@ -279,8 +279,17 @@ EntryPropertyRequest PropertyEnumerator::updateHolder(const EntryPropertyRequest
         if (set)
             PropertyDataHolder::refineSet(set, request.entry);
     }
-    if (request.holder)
-        request.holder->setRefined();
+    PropertyDataHolder *const holder = request.holder;
+    const auto isOutdated = [&] {
+        return request.invalidations >= 0 && holder->m_invalidations != request.invalidations;
+    };
+    if (!holder || isOutdated()) // the entry changed, and is prepared and refined anew when somebody asks
+        return request;
+    holder->setRefined();
+    if (isOutdated()) { // just now: the marks were not for this state of the entry
+        holder->m_prepared = 0;
+        holder->m_refined = 0;
+    }
     return request;
 }
 

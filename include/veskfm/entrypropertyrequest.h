@@ -21,6 +21,7 @@ struct EntryPropertyRequest
     QVector<EntryPropertySet *> propertySets; ///< borrowed from the holder
     PropertyDataHolder *holder = nullptr;     ///< the enumerator holds a reference until the request is announced
     Entry entry;
+    int invalidations = -1; ///< of the holder so far; when there are more at the end, what was computed is outdated
 };
 
 using EntryPropertyRequestList = QList<EntryPropertyRequest>;

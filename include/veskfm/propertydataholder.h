@@ -106,6 +106,7 @@ private:
     qint8 m_setCount = 0;
     bool m_indexed = false; // found by its key in m_pool
     bool m_idle = false;
+    std::atomic<quint8> m_invalidations{0}; // tells a request that ends whether the entry changed meanwhile
 };
 
 } // namespace VeskFM
