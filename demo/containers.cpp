@@ -5,6 +5,7 @@
 
 #include "printabletext.h"
 
+#include <veskplatform/archivemount.h>
 #include <veskplatform/standardpaths.h>
 #include <veskplatform/vfs.h>
 #include <veskplatform/vfsplacebase.h>
@@ -30,14 +31,11 @@ Entry parentToShow(const Entry &directory)
     return parent == VFS::ptr()->rootEntry() ? Entry() : parent;
 }
 
-Entry archiveAround(const Entry &directory)
+bool canTakeFiles(const Entry &container)
 {
-    if (directory.isPlace())
-        return {};
-    Entry step = directory;
-    while (!step.isNull() && !step.isArchiveMountPoint())
-        step = parentToShow(step);
-    return step;
+    if (container.isPlace())
+        return !container.localPath().isEmpty();
+    return container.isDir() && ArchiveMount::archiveOf(container).isNull();
 }
 
 Entry trashPlace()

@@ -15,8 +15,9 @@ VeskFM::Entry directoryToShow(const VeskFM::Entry &entry);
 /// Where "up" leads from @p directory; null at the top of the disk, of an archive on it never.
 VeskFM::Entry parentToShow(const VeskFM::Entry &directory);
 
-/// The archive that @p directory is, or lies in; null for one of the disk.
-VeskFM::Entry archiveAround(const VeskFM::Entry &directory);
+/// Whether something can be put into @p container, as far as can be told without trying: not into an archive, nor into a
+/// place that only leads to others.
+bool canTakeFiles(const VeskFM::Entry &container);
 
 VeskFM::Entry trashPlace();
 

@@ -4,7 +4,6 @@
 #include "directoryview.h"
 
 #include "entrydelegate.h"
-#include "entrydrag.h"
 #include "layoutrepaint.h"
 
 #include <veskfm/model.h>
@@ -115,7 +114,7 @@ void DirectoryView::showSorting()
     header()->viewport()->update();
 }
 
-void DirectoryView::startDrag(Qt::DropActions actions)
+void DirectoryView::startDrag(Qt::DropActions)
 {
-    dragSelection(this, actions);
+    Q_EMIT dragRequested();
 }

@@ -18,6 +18,9 @@ class DirectoryView : public QTreeView
 public:
     explicit DirectoryView(VeskFM::Model *model, QWidget *parent = nullptr); ///< @p model must outlive the view
 
+Q_SIGNALS:
+    void dragRequested(); ///< of the selected rows
+
 protected:
     void startDrag(Qt::DropActions actions) override;
     void resizeEvent(QResizeEvent *event) override;

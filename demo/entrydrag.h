@@ -3,9 +3,10 @@
 
 #pragma once
 
-#include <Qt>
+#include <veskplatform/entrylist.h>
 
 class QAbstractItemView;
 
-/// Drags the selected rows of @p view, with a small picture that leaves to be seen what is below the pointer.
-void dragSelection(QAbstractItemView *view, Qt::DropActions actions);
+/// Drags @p entries from @p view, with a small picture that leaves to be seen what is below the pointer. Returns when
+/// they have been dropped.
+void dragEntries(QAbstractItemView *view, const VeskFM::EntryList &entries, Qt::DropActions actions);

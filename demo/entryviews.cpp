@@ -3,6 +3,7 @@
 
 #include "entryviews.h"
 
+#include "containers.h"
 #include "directoryview.h"
 #include "iconview.h"
 #include "listingcurtain.h"
@@ -36,6 +37,8 @@ EntryViews::EntryViews(Model *model, QWidget *parent)
     m_icons->setSelectionModel(m_table->selectionModel());
     adopt(m_table);
     adopt(m_icons);
+    connect(m_table, &DirectoryView::dragRequested, this, &EntryViews::dragRequested);
+    connect(m_icons, &IconView::dragRequested, this, &EntryViews::dragRequested);
     applyIconSize(Table);
     applyIconSize(Icons);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &EntryViews::selectionChanged);
@@ -247,9 +250,10 @@ bool EntryViews::onWheel(int delta, Qt::KeyboardModifiers modifiers)
 EntryDrops::Place EntryViews::dropPlace(QAbstractItemView *view, const QDropEvent &event) const
 {
     const QModelIndex row = view->indexAt(event.pos()).siblingAtColumn(0);
-    if (row.isValid() && m_model->flags(row).testFlag(Qt::ItemIsDropEnabled))
-        return {m_model->entryByIndex(row), view->visualRect(row)};
-    if (event.source() == view) // they are there already
+    const Entry entry = row.isValid() ? m_model->entryByIndex(row) : Entry();
+    if (canTakeFiles(entry))
+        return {entry, view->visualRect(row)};
+    if (event.source() == view || !canTakeFiles(m_model->actualRootEntry())) // they are there already
         return {};
     return {m_model->actualRootEntry(), QRect()};
 }

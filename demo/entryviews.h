@@ -62,6 +62,7 @@ Q_SIGNALS:
     void selectionChanged();                          ///< by the user or because rows came and went
     /// @param target the directory under the pointer, else the one that is shown
     void entriesDropped(const VeskFM::EntryList &entries, const VeskFM::Entry &target, Qt::DropAction action);
+    void dragRequested(); ///< of what is selected
     void menuRequested(const QPoint &globalPosition);
     void focused();
     void tabPressed();

@@ -66,9 +66,9 @@ void FileActions::createEditMenu()
 {
     QList<QAction *> *const menu = &m_editMenu;
     m_onChange += add(menu, "cut", tr("Cut"), QStringLiteral("edit-cut"), {QKeySequence::Cut},
-                      [this] { Clipboard::ptr()->setEntries(selection(), Clipboard::Cut); });
+                      [this] { m_work->cut(selection()); });
     m_onSelection += add(menu, "copy", tr("Copy"), QStringLiteral("edit-copy"), {QKeySequence::Copy},
-                         [this] { Clipboard::ptr()->setEntries(selection(), Clipboard::Copy); });
+                         [this] { m_work->copy(selection()); });
     m_paste = add(menu, "paste", tr("Paste"), QStringLiteral("edit-paste"), {QKeySequence::Paste},
                   [this] { m_work->paste(); });
     addSeparator(menu);
@@ -117,6 +117,8 @@ void FileActions::listenTo(Pane *pane)
             [this](const EntryList &entries, const Entry &target, Qt::DropAction action) {
                 m_work->transfer(entries, target, action == Qt::MoveAction);
             });
+    connect(pane->views(), &EntryViews::dragRequested, this,
+            [this, pane] { m_work->drag(pane->views()->view(), pane->views()->selectedEntries()); });
     m_work->listenTo(pane);
 }
 

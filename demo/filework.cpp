@@ -3,6 +3,8 @@
 
 #include "filework.h"
 
+#include "containers.h"
+#include "entrydrag.h"
 #include "inplaceeditor.h"
 #include "kiosk.h"
 #include "newentry.h"
@@ -12,6 +14,7 @@
 #include <veskfm/clipboard.h>
 #include <veskfm/corepaths.h>
 #include <veskfm/open.h>
+#include <veskplatform/archivemount.h>
 #include <veskplatform/vfs.h>
 
 #include <QAbstractItemView>
@@ -40,6 +43,7 @@ FileWork::FileWork(QWidget *window)
     connect(&m_operations, &OperationTracker::progress, this, [this](const QString &text) { message(text, true); });
     connect(&m_operations, &OperationTracker::finished, this, [this](const QString &text) { message(text, false); });
     connect(&m_operations, &OperationTracker::made, this, &FileWork::showMade);
+    connect(&m_archives, &ArchiveFiles::message, this, &FileWork::message);
 }
 
 void FileWork::setPane(Pane *active)
@@ -59,6 +63,16 @@ Entry FileWork::freeEntry(const QString &baseName, const QString &suffix) const
 }
 
 void FileWork::open(const EntryList &entries, bool chooseApplication)
+{
+    m_archives.withFiles(entries, [this, chooseApplication](const EntryList &files) {
+        if (files.size() == 1 && canBeShown(files.first()) && !chooseApplication)
+            m_pane->openDirectory(files.first()); // an archive that came out of another
+        else if (!files.isEmpty())
+            openFiles(files, chooseApplication);
+    });
+}
+
+void FileWork::openFiles(const EntryList &entries, bool chooseApplication)
 {
     if (std::any_of(entries.cbegin(), entries.cend(), [](const Entry &entry) { return !Kiosk::mayOpen(entry); })) {
         Q_EMIT message(tr("Only applications of the kiosk are started here"), false);
@@ -87,7 +101,36 @@ void FileWork::paste()
     Clipboard::clear(); // they are not where it says any more
 }
 
+void FileWork::copy(const EntryList &entries)
+{
+    m_archives.withFiles(entries, [](const EntryList &files) { Clipboard::ptr()->setEntries(files, Clipboard::Copy); });
+}
+
+void FileWork::cut(const EntryList &entries)
+{
+    Clipboard::ptr()->setEntries(entries, Clipboard::Cut);
+}
+
+void FileWork::drag(QAbstractItemView *view, const EntryList &entries)
+{
+    const bool unpacked = std::any_of(entries.cbegin(), entries.cend(), &ArchiveMount::isInArchive);
+    const Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
+    dragEntries(view, m_archives.filesSoon(entries), unpacked ? Qt::CopyAction : actions);
+}
+
 void FileWork::transfer(const EntryList &entries, const Entry &target, bool move)
+{
+    if (target.isTrashDirPlace()) {
+        trash(entries);
+        return;
+    }
+    const bool unpacked = std::any_of(entries.cbegin(), entries.cend(), &ArchiveMount::isInArchive);
+    m_archives.withFiles(entries, [this, target, move = move && !unpacked](const EntryList &files) {
+        transferFiles(files, target, move);
+    });
+}
+
+void FileWork::transferFiles(const EntryList &entries, const Entry &target, bool move)
 {
     if (entries.isEmpty() || !m_operations.isAvailable())
         return;

@@ -4,7 +4,6 @@
 #include "iconview.h"
 
 #include "entrydelegate.h"
-#include "entrydrag.h"
 #include "layoutrepaint.h"
 
 #include <veskfm/model.h>
@@ -51,7 +50,7 @@ void IconView::setCellIconSize(int pixels)
     setGridSize(QSize(width, height));
 }
 
-void IconView::startDrag(Qt::DropActions actions)
+void IconView::startDrag(Qt::DropActions)
 {
-    dragSelection(this, actions);
+    Q_EMIT dragRequested();
 }

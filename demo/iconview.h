@@ -22,6 +22,9 @@ public:
 
     void setCellIconSize(int pixels);
 
+Q_SIGNALS:
+    void dragRequested(); ///< of the selected rows
+
 protected:
     void startDrag(Qt::DropActions actions) override;
 

@@ -5,6 +5,8 @@
 
 #include <veskfm/model.h>
 #include <veskfm/modelitem.h>
+#include <veskplatform/archivemount.h>
+#include <veskplatform/archiveproblem.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -32,6 +34,8 @@ bool isListing(const Model &model)
 
 QString accessProblem(const Entry &directory)
 {
+    if (!ArchiveMount::archiveOf(directory).isNull())
+        return archiveProblem(directory);
     const QByteArray path = QFile::encodeName(directory.localPath());
     if (path.isEmpty()) // a place, or a name that the local encoding cannot express
         return {};

@@ -17,7 +17,7 @@ int entryCount(const VeskFM::Model &model);
 /// Whether the answer to the last rebuild is still due.
 bool isListing(const VeskFM::Model &model);
 
-/// What keeps this process from reading the directory, as the system words it; empty when nothing does.
+/// What keeps this process from reading the directory or archive, for the user; empty when nothing does.
 /// Looks at the disk: ask only when a listing came back empty.
 QString accessProblem(const VeskFM::Entry &directory);
 

@@ -221,6 +221,9 @@ void MainWindow::connectActions()
         QMessageBox::about(this, tr("About"),
                            tr("A file manager that shows what libveskfmcore %1 can do.").arg(Core::version()));
     });
+    ArchiveFiles *const archives = m_files->work()->archives();
+    on(actions.stop, [archives] { archives->cancel(); });
+    connect(archives, &ArchiveFiles::busyChanged, actions.stop, &QAction::setEnabled);
     connect(m_files->work(), &FileWork::message, this, &MainWindow::showMessage);
 }
 

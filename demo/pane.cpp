@@ -220,7 +220,7 @@ bool Pane::showDirectory(const Entry &container)
     }
     Q_EMIT message(QString());
     m_model->rebuild(directory);
-    m_writable = !directory.isPlace() && archiveAround(directory).isNull();
+    m_writable = !directory.isPlace() && canTakeFiles(directory);
     m_onNetwork = VFS::ptr()->isOnNonHomeNetworkFileSystem(directory);
     m_pathBar->setDirectory(directory);
     return true;

@@ -3,6 +3,7 @@
 
 #include "sidepanel.h"
 
+#include "containers.h"
 #include "entrydrops.h"
 #include "kiosk.h"
 #include "paneltree.h"
@@ -54,9 +55,8 @@ void SidePanel::adopt(PanelTree *tree, TreeModel *model)
     connect(tree, &PanelTree::renamingRequested, this, &SidePanel::renamingRequested);
     auto *const drops = new EntryDrops(tree, [tree, model](const QDropEvent &event) -> EntryDrops::Place {
         const QModelIndex row = tree->indexAt(event.pos());
-        if (!row.isValid() || !model->flags(row).testFlag(Qt::ItemIsDropEnabled))
-            return {};
-        return {model->entryByIndex(row), tree->visualRect(row)};
+        const Entry entry = row.isValid() ? model->entryByIndex(row) : Entry();
+        return canTakeFiles(entry) ? EntryDrops::Place{entry, tree->visualRect(row)} : EntryDrops::Place();
     });
     connect(drops, &EntryDrops::dropped, this, &SidePanel::entriesDropped);
 }

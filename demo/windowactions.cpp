@@ -54,6 +54,8 @@ WindowActions::WindowActions(QMainWindow *window)
     sidePanel = addCheckable("sidePanel", tr("Side Panel"), QStringLiteral("view-sidetree"), {Qt::Key_F9});
     twoPanes = addCheckable("twoPanes", tr("Two Panes"), QStringLiteral("view-split-left-right"), {Qt::Key_F3});
     filter = add("filter", tr("Filter"), QStringLiteral("view-filter"), {Qt::CTRL + Qt::Key_I});
+    stop = add("stop", tr("Stop"), QStringLiteral("process-stop"), {Qt::Key_Escape});
+    stop->setEnabled(false); // or Escape would never get to who else wants it
     reload = add("reload", tr("Reload"), QStringLiteral("view-refresh"), {Qt::CTRL + Qt::Key_R});
 
     back = add("back", tr("Back"), QStringLiteral("go-previous"), {QKeySequence::Back});
@@ -109,7 +111,7 @@ void WindowActions::fillMenuBar(QMenuBar *bar, const FileActions &files)
     addMenu(bar, "editMenu", tr("&Edit"), files.editMenu() + QList<QAction *>{nullptr, selectAll, invertSelection});
     QMenu *const view = addMenu(bar, "viewMenu", tr("&View"),
                                 {table, icons, nullptr, zoomIn, zoomOut, zoomReset, nullptr, hidden, thumbnails, filter,
-                                 nullptr, sidePanel, twoPanes, nullptr, reload});
+                                 nullptr, sidePanel, twoPanes, nullptr, reload, stop});
     sortMenu = new QMenu(tr("Sort By"), view);
     sortMenu->setObjectName(QStringLiteral("sortMenu"));
     view->insertMenu(hidden, sortMenu);

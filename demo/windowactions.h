@@ -32,7 +32,7 @@ public:
     QAction *newWindow, *closeWindow, *quit, *properties;
     QAction *selectAll, *invertSelection, *settings;
     QAction *table, *icons, *zoomIn, *zoomOut, *zoomReset, *hidden, *thumbnails, *sidePanel, *twoPanes, *filter,
-        *reload;
+        *reload, *stop;
     QAction *back, *forward, *up, *home, *trashCan, *path, *panelFocus, *otherPane;
     QAction *find;
     QAction *about;
