@@ -7,7 +7,6 @@
 #include "entrydrag.h"
 #include "inplaceeditor.h"
 #include "kiosk.h"
-#include "newentry.h"
 #include "pane.h"
 #include "printabletext.h"
 
@@ -15,6 +14,7 @@
 #include <veskfm/corepaths.h>
 #include <veskfm/open.h>
 #include <veskplatform/archivemount.h>
+#include <veskplatform/newentry.h>
 #include <veskplatform/vfs.h>
 
 #include <QAbstractItemView>
