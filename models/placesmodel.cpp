@@ -9,6 +9,8 @@
 #include <veskfm/settings.h>
 #include <veskplatform/entrywatcher.h>
 
+#include <QSet>
+
 #include <algorithm>
 
 namespace VeskFM
@@ -42,6 +44,13 @@ void PlacesModelPrivate::start()
         [this](const Entry &entry) {
             if (extras.contains(entry) && showsPlaces())
                 updateRows(root->entry(), EntryList(entry));
+        },
+        Qt::QueuedConnection);
+    QObject::connect(
+        VFS::ptr()->entryWatcher(), &EntryWatcher::dirListed, q, // behind the base's, which has added rows by then
+        [this](const Entry &entry, VFS::EntryChildFilters askedFor, const EntryList &children) {
+            if (askedFor == childFilters() && m_listedAgain.removeOne(entry))
+                removeVanished(entry, children);
         },
         Qt::QueuedConnection);
     const Entry top = VFS::ptr()->rootEntry();
@@ -87,9 +96,43 @@ void PlacesModelPrivate::fetchChildren(ModelItem *item)
     }
     if (item->isChildsInited() || item->isChildsIniting())
         return;
+    m_listedAgain.clear();
     item->setChildsIniting(true);
     QMetaObject::invokeMethod(
         q, [this] { fillTopLevel(); }, Qt::QueuedConnection); // rows never arrive inside a reset
+}
+
+/// Whatever is made in the directory behind a place is told by a reset of the place, even if it gets no row. So the rows
+/// stay while it is listed again: in a home directory files come all the time, and the branches in it must not collapse.
+void PlacesModelPrivate::resetItem(ModelItem *item)
+{
+    const Entry entry = item ? item->entry() : Entry();
+    const bool hasRows = item && (item->isChildsInited() || m_listedAgain.contains(entry));
+    if (!hasRows || !entry.isDirPlace() || entry.isTrashDirPlace() || !VFS::ptr()->isEntryExists(entry)) {
+        TreeModelPrivate::resetItem(item);
+        return;
+    }
+    m_listedAgain.append(entry);
+    item->refresh();
+    item->setChildsInited(false);
+    fetchChildren(item);
+}
+
+void PlacesModelPrivate::removeVanished(const Entry &place, const EntryList &children)
+{
+    ModelItem *const before = listedItem(place);
+    const QList<ModelItem *> rows = before ? before->childs() : QList<ModelItem *>();
+    const QSet<Entry> present(children.cbegin(), children.cend());
+    EntryList vanished;
+    for (const ModelItem *row : rows) {
+        if (!present.contains(row->entry()))
+            vanished.append(row->entry());
+    }
+    for (const Entry &entry : qAsConst(vanished))
+        removeRow(place, entry);
+    ModelItem *const item = listedItem(place);
+    if (item && m_listedAgain.contains(place)) // this answer is older than the last reset
+        item->setChildsInited(false);
 }
 
 void PlacesModelPrivate::fillTopLevel()
@@ -126,7 +169,6 @@ ModelItem *PlacesModelPrivate::listedItem(const Entry &entry) const
 /// Removes the rows below @p parent that are not accepted any more, and adds those of @p wanted that are missing.
 void PlacesModelPrivate::updateRows(const Entry &parent, const EntryList &wanted)
 {
-    const auto childOf = [](ModelItem *item, const Entry &entry) { return item ? item->child(entry) : nullptr; };
     ModelItem *const before = listedItem(parent);
     const QList<ModelItem *> children = before ? before->childs() : QList<ModelItem *>();
     EntryList refused;
@@ -134,15 +176,20 @@ void PlacesModelPrivate::updateRows(const Entry &parent, const EntryList &wanted
         if (!acceptEntry(child->entry()))
             refused.append(child->entry());
     }
-    for (const Entry &entry : qAsConst(refused)) {
-        if (ModelItem *const child = childOf(listedItem(parent), entry))
-            removeItem(child);
-    }
+    for (const Entry &entry : qAsConst(refused))
+        removeRow(parent, entry);
     for (const Entry &entry : wanted) {
         ModelItem *const item = listedItem(parent);
         if (item && !item->hasChildItem(entry) && acceptEntry(entry))
             insertItem(item, entry);
     }
+}
+
+void PlacesModelPrivate::removeRow(const Entry &parent, const Entry &entry)
+{
+    ModelItem *const item = listedItem(parent);
+    if (ModelItem *const child = item ? item->child(entry) : nullptr)
+        removeItem(child);
 }
 
 void PlacesModelPrivate::addExtra(const Entry &entry)

@@ -17,6 +17,7 @@ public:
     explicit PlacesModelPrivate(PlacesModel *model);
 
     void fetchChildren(ModelItem *item) override;
+    void resetItem(ModelItem *item) override;
     bool acceptEntry(const Entry &entry) const override;
 
     void start();             ///< shows the places, and follows the setting and the watcher
@@ -33,10 +34,13 @@ private:
     void fillTopLevel();
     void followSetting();
     void updateRows(const Entry &parent, const EntryList &wanted);
+    void removeVanished(const Entry &place, const EntryList &children);
+    void removeRow(const Entry &parent, const Entry &entry);
     ModelItem *listedItem(const Entry &entry) const;
     EntryList nearestPlace(const Entry &entry) const;
 
     QStringList m_hiddenRoots; // names
+    EntryList m_listedAgain;   // places with rows, once for each listing under way
 };
 
 } // namespace VeskFM

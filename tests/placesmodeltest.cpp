@@ -75,6 +75,13 @@ private Q_SLOTS:
         const QModelIndex home = shown.at("Home", shown.places);
         shown.model.fetchMore(home);
         QTRY_VERIFY(shown.names(home).contains("shown"));
+        const QPersistentModelIndex branch = shown.at("shown", home);
+        QVERIFY(QDir::home().mkpath("late"));
+        QTRY_VERIFY(shown.names(home).contains("late"));
+        QVERIFY(branch.isValid()); // it may be expanded
+        Q_EMIT watcher()->entryReset(shown.model.entryByIndex(home));
+        Q_EMIT watcher()->dirListed(shown.model.entryByIndex(home), VFS::ContainersOnly, {}); // and nobody told
+        QTRY_VERIFY(!branch.isValid());
         TreeModel tree(ModelFilter::AllEntries); // over the same top, where it finds the root of the disk too
         tree.rebuild(VFS::ptr()->rootEntry());
         shown.model.refresh();
