@@ -85,7 +85,7 @@ QVariant Model::data(const QModelIndex &index, int role) const
             VFS::ptr()->entryWatcher()->addBadEntry(item->entry());
         break;
     case Qt::DecorationRole:
-        if (index.isValid() && item->needsRefine()) // it is painted: now the expensive values are worth it
+        if (item->needsRefine()) // it is painted: now the expensive values are worth it
             item->delayedRefine();
         break;
     case SizeValueRole:
