@@ -93,7 +93,7 @@ private Q_SLOTS:
         description.describe({tree.entry("b")});
         QCOMPARE(updated.first().first().toString(), "b (1 B)");
         mayGoOn.release(3);
-        QTRY_COMPARE(updated.last().first().toString(), "b (1 B), 5 words, 1 B in 1 file(s)");
+        QTRY_COMPARE(updated.last().first().toString(), "b (1 B), 5 words");
     }
 
     void changesPermissions()

@@ -52,6 +52,9 @@ bool FileInfoPlugin::hasTextDigest()
 
 QString FileInfoPlugin::textDigest(const EntryList &entries, bool *running)
 {
+    const bool isOneFile = entries.size() == 1 && entries.first().isFile() && !entries.first().isArchiveMountPoint();
+    if (isOneFile) // descriptions of one begin with its size
+        return {};
     SelectionSize size(running);
     if (!size.add(entries) || size.files() + size.directories() == 0)
         return {};

@@ -24,7 +24,8 @@ public:
     int orderPriority() override;
 
     bool hasTextDigest() override;
-    /// The total size of everything selected, for example "1.50 MB in 3 files"; see SelectionSize. Thread: a worker.
+    /// The total size of everything selected, for example "1.50 MB in 3 files"; see SelectionSize. Empty for a single
+    /// file. Thread: a worker.
     QString textDigest(const EntryList &entries, bool *running) override;
 
     bool hasPropsWidgetFor(const EntryList &entries) override;
