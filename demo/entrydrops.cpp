@@ -3,6 +3,8 @@
 
 #include "entrydrops.h"
 
+#include "favoritedrops.h"
+
 #include <veskfm/clipboard.h>
 
 #include <QAbstractItemView>
@@ -18,7 +20,7 @@ constexpr int scrollMargin = 24; // pixels from the edge
 
 bool isKnown(const QMimeData *data)
 {
-    return !Clipboard::ptr()->actualMimeTypes(data).isEmpty();
+    return !isFavoriteDrag(data) && !Clipboard::ptr()->actualMimeTypes(data).isEmpty();
 }
 
 } // namespace

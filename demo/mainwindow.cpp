@@ -5,6 +5,7 @@
 
 #include "containers.h"
 #include "directoryview.h"
+#include "favoritedrops.h"
 #include "fileactions.h"
 #include "filework.h"
 #include "filterbar.h"
@@ -13,6 +14,7 @@
 #include "pane.h"
 #include "paneltree.h"
 #include "pathbar.h"
+#include "placework.h"
 #include "printabletext.h"
 #include "sidepanel.h"
 #include "statusline.h"
@@ -50,6 +52,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_files(new FileActions(this))
     , m_content(new QSplitter(this))
     , m_panel(new SidePanel(m_content))
+    , m_placeWork(new PlaceWork(m_panel, m_files->work(), this))
     , m_paneArea(new QSplitter(m_content))
     , m_status(new StatusLine(this))
 {
@@ -72,6 +75,7 @@ MainWindow::MainWindow(QWidget *parent)
     connectActions();
     connectViewActions();
     connectPanel();
+    connectFavorites();
     new WindowDialogs(this);
     resize(1100, 700);
     m_active->focusView();
@@ -148,6 +152,9 @@ void MainWindow::followPane(Pane *pane)
     };
     connect(pane, &Pane::activated, this, [this, pane] { setActivePane(pane); });
     connect(pane, &Pane::directoryChanged, this, whenActive(&MainWindow::showWhereWeAre));
+    connect(pane, &Pane::deviceActivated, this, [this, pane](const Entry &device) {
+        m_placeWork->withDevice(device, [pane](const Entry &place) { pane->openDirectory(place); });
+    });
     connect(pane, &Pane::message, this, [this](const QString &text) { showMessage(text); });
     connect(pane->views(), &EntryViews::modeChanged, this, whenActive(&MainWindow::showViewMode));
     connect(pane->views(), &EntryViews::tabPressed, m_actions->otherPane, &QAction::trigger);
@@ -263,17 +270,34 @@ void MainWindow::connectPanel()
         m_actions->sidePanel->setChecked(true);
         (m_panel->places()->hasFocus() ? m_panel->tree() : m_panel->places())->setFocus(Qt::ShortcutFocusReason);
     });
-    connect(m_panel, &SidePanel::opened, this, [this](const Entry &entry, bool inOtherPane) {
-        if (inOtherPane)
-            openInOtherPane(entry);
-        else
-            openDirectory(entry);
-        m_panel->showDirectory(m_active->directory()); // what was clicked may be somewhere else, or nowhere
-    });
+    connect(m_panel, &SidePanel::opened, this, &MainWindow::openFromPanel);
     connect(m_panel, &SidePanel::entriesDropped, m_files,
             [this](const EntryList &entries, const Entry &target, Qt::DropAction action) {
                 m_files->work()->transfer(entries, target, action == Qt::MoveAction);
             });
+}
+
+void MainWindow::connectFavorites()
+{
+    connect(m_placeWork, &PlaceWork::opened, this, &MainWindow::openFromPanel);
+    connect(m_placeWork, &PlaceWork::message, this, &MainWindow::showMessage);
+    auto *const drops = new FavoriteDrops(m_panel->places(), this);
+    connect(drops, &FavoriteDrops::failed, this, [this](const QString &text) { showMessage(text); });
+    connect(m_actions->favorite, &QAction::triggered, this, [this] {
+        const Entry current = m_active->views()->selectedEntries().value(0);
+        m_placeWork->addFavorite(current.isDir() ? current : m_active->directory());
+    });
+}
+
+void MainWindow::openFromPanel(const Entry &entry, bool inOtherPane)
+{
+    m_placeWork->withDevice(entry, [this, inOtherPane](const Entry &place) {
+        if (inOtherPane)
+            openInOtherPane(place);
+        else
+            openDirectory(place);
+    });
+    m_panel->markDirectory(); // what was clicked may be somewhere else, or nowhere
 }
 
 void MainWindow::fillSortMenu()

@@ -9,6 +9,7 @@
 
 class FileActions;
 class Pane;
+class PlaceWork;
 class SidePanel;
 class StatusLine;
 class WindowActions;
@@ -58,6 +59,8 @@ private:
     void connectActions();
     void connectViewActions();
     void connectPanel();
+    void connectFavorites();
+    void openFromPanel(const VeskFM::Entry &entry, bool inOtherPane);
     void followPane(Pane *pane);
     void showWhereWeAre();
     void showViewMode();
@@ -68,6 +71,7 @@ private:
     FileActions *m_files;
     QSplitter *m_content; // the panel, then the panes
     SidePanel *m_panel;
+    PlaceWork *m_placeWork;
     QSplitter *m_paneArea;
     StatusLine *m_status;
     QList<Pane *> m_panes; // one, or two of which the second may be hidden

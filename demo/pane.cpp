@@ -14,6 +14,7 @@
 #include <veskfm/modelfilter.h>
 #include <veskfm/settings.h>
 #include <veskplatform/entrywatcher.h>
+#include <veskplatform/storagemount.h>
 #include <veskplatform/vfs.h>
 
 #include <QAbstractItemView>
@@ -197,7 +198,9 @@ void Pane::focusView()
 
 void Pane::activateEntry(const Entry &entry)
 {
-    if (canBeShown(entry))
+    if (StorageMount::canMount(entry))
+        Q_EMIT deviceActivated(entry);
+    else if (canBeShown(entry))
         openDirectory(entry);
     else
         Q_EMIT fileActivated(entry);

@@ -48,7 +48,8 @@ public:
 
 Q_SIGNALS:
     void directoryChanged();
-    void fileActivated(const VeskFM::Entry &entry); ///< something that has no inside to show
+    void fileActivated(const VeskFM::Entry &entry);   ///< something that has no inside to show
+    void deviceActivated(const VeskFM::Entry &place); ///< one that is not mounted
     void message(const QString &text);
     void activated(); ///< it got the focus
 

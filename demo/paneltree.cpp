@@ -4,15 +4,19 @@
 #include "paneltree.h"
 
 #include "entrydelegate.h"
+#include "favoritedrops.h"
 #include "layoutrepaint.h"
 
 #include <veskfm/iconsize.h>
 #include <veskfm/treemodel.h>
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionViewItem>
+
+#include <utility>
 
 using namespace VeskFM;
 
@@ -86,9 +90,28 @@ void PanelTree::keyPressEvent(QKeyEvent *event)
     }
 }
 
+void PanelTree::mousePressEvent(QMouseEvent *event)
+{
+    const Entry entry = event->button() == Qt::LeftButton ? entryAt(event->pos()) : Entry();
+    m_pressed = entry.isFavoritePlace() ? entry : Entry();
+    m_pressPosition = event->pos();
+    QTreeView::mousePressEvent(event);
+}
+
+// The model lets no place be dragged, since it is none of the directory's business where a favorite goes.
+void PanelTree::mouseMoveEvent(QMouseEvent *event)
+{
+    const bool far = (event->pos() - m_pressPosition).manhattanLength() >= QApplication::startDragDistance();
+    if (!m_pressed.isNull() && event->buttons() == Qt::LeftButton && far)
+        dragFavorite(this, std::exchange(m_pressed, {}));
+    else
+        QTreeView::mouseMoveEvent(event);
+}
+
 void PanelTree::mouseReleaseEvent(QMouseEvent *event)
 {
-    const bool dragged = state() == DraggingState;
+    const bool dragged = state() == DraggingState
+        || (event->pos() - m_pressPosition).manhattanLength() >= QApplication::startDragDistance();
     const QModelIndex pressed = currentIndex();
     QTreeView::mouseReleaseEvent(event);
     const QModelIndex index = indexAt(event->pos());

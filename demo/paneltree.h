@@ -32,9 +32,13 @@ Q_SIGNALS:
 protected:
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const override;
 
 private:
     VeskFM::TreeModel *m_model; // borrowed
+    QPoint m_pressPosition;
+    VeskFM::Entry m_pressed; // a favorite that may be dragged away; null otherwise
 };

@@ -74,8 +74,13 @@ void SidePanel::showGroups()
 void SidePanel::showDirectory(const Entry &directory)
 {
     m_directory = directory;
-    showInPlaces(directory);
-    showInTree(directory);
+    markDirectory();
+}
+
+void SidePanel::markDirectory()
+{
+    showInPlaces(m_directory);
+    showInTree(m_directory);
 }
 
 void SidePanel::setShowHidden(bool show)

@@ -27,6 +27,7 @@ public:
     ~SidePanel() override;
 
     void showDirectory(const VeskFM::Entry &directory); ///< opens the tree down to it and marks it
+    void markDirectory();                               ///< again, when the cursor has been elsewhere
     void setShowHidden(bool show);
     PanelTree *places() const { return m_places; }
     PanelTree *tree() const { return m_tree; }

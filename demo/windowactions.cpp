@@ -63,6 +63,7 @@ WindowActions::WindowActions(QMainWindow *window)
     up = add("up", tr("Up"), QStringLiteral("go-up"), {Qt::ALT + Qt::Key_Up, Qt::Key_Backspace});
     home = add("home", tr("Home"), QStringLiteral("go-home"), {Qt::ALT + Qt::Key_Home});
     trashCan = add("trashCan", tr("Trash"), QStringLiteral("user-trash"), {Qt::CTRL + Qt::Key_T});
+    favorite = add("favorite", tr("Add to Favorites"), QStringLiteral("bookmark-new"), {Qt::CTRL + Qt::Key_D});
     path = add("path", tr("Path"), QString(), {Qt::CTRL + Qt::Key_L});
     panelFocus = add("panelFocus", tr("To the Side Panel"), QString(), {Qt::CTRL + Qt::SHIFT + Qt::Key_L});
     otherPane = add("otherPane", tr("To the Other Pane"), QString(), {});
@@ -116,7 +117,7 @@ void WindowActions::fillMenuBar(QMenuBar *bar, const FileActions &files)
     sortMenu->setObjectName(QStringLiteral("sortMenu"));
     view->insertMenu(hidden, sortMenu);
     addMenu(bar, "goMenu", tr("&Go"),
-            {back, forward, up, nullptr, home, trashCan, nullptr, path, panelFocus, otherPane});
+            {back, forward, up, nullptr, home, trashCan, nullptr, favorite, nullptr, path, panelFocus, otherPane});
     addMenu(bar, "toolsMenu", tr("&Tools"), {find, nullptr, settings});
     addMenu(bar, "helpMenu", tr("&Help"), {about});
 }

@@ -33,7 +33,7 @@ public:
     QAction *selectAll, *invertSelection, *settings;
     QAction *table, *icons, *zoomIn, *zoomOut, *zoomReset, *hidden, *thumbnails, *sidePanel, *twoPanes, *filter,
         *reload, *stop;
-    QAction *back, *forward, *up, *home, *trashCan, *path, *panelFocus, *otherPane;
+    QAction *back, *forward, *up, *home, *trashCan, *favorite, *path, *panelFocus, *otherPane;
     QAction *find;
     QAction *about;
     QMenu *sortMenu = nullptr; ///< empty; to be filled when it is about to be shown
