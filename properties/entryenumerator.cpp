@@ -61,7 +61,7 @@ Entry EntryEnumerator::getNextEntry()
 
     Level &top = m_pending.top();
     const Entry entry = std::move(top.entries[top.position++]); // what the walk is done with takes no room
-    if (m_includeSubdirs && !entry.isSymLink() && entry.isDir()) {
+    if (isEntered(entry)) {
         VFS::EntryChildFilters filters = VFS::RecursiveListing;
         filters.setFlag(VFS::NoArchiveDescent, !m_includeArchives);
         pushChilds(entry, filters);
@@ -75,6 +75,13 @@ Entry EntryEnumerator::nextEntry()
     while (!m_includeHidden && entry.isHidden()) // a null entry is not hidden
         entry = getNextEntry();
     return entry;
+}
+
+/// A VFS may have archives that can be entered as files.
+bool EntryEnumerator::isEntered(const Entry &entry) const
+{
+    return m_includeSubdirs && !entry.isSymLink()
+        && (entry.isDir() || (m_includeArchives && entry.isArchiveMountPoint()));
 }
 
 void EntryEnumerator::pushChilds(const Entry &entry, VFS::EntryChildFilters filters)

@@ -2,12 +2,31 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "testtree.h"
+#include "treevfs.h"
 
 #include <veskfm/entryenumerator.h>
 
 #include <QTest>
 
 using namespace VeskFM;
+
+namespace
+{
+
+/// Takes down what is listed, and for which filters.
+class WalkedVfs : public TreeVfs
+{
+public:
+    EntryList childs(const Entry &entry, EntryChildFilters filters, QAtomicInt *) const override
+    {
+        asked.append(entry.path() + QLatin1Char(' ') + QString::number(filters));
+        return children.value(entry.path());
+    }
+    mutable QStringList asked;
+    QHash<QString, EntryList> children;
+};
+
+} // namespace
 
 class EntryEnumeratorTest : public QObject
 {
@@ -54,6 +73,22 @@ private Q_SLOTS:
         QStringList names = walk(enumerator);
         names.sort();
         QCOMPARE(names, QStringList({"file", "self", "up"}));
+    }
+
+    void entersArchivesIfAsked()
+    {
+        WalkedVfs vfs;
+        const Entry top = vfs.add("/top", Entry::Dir);
+        const Entry dir = vfs.add("/top/dir", Entry::Dir);
+        const Entry zip = vfs.add("/top/dir/zip", Entry::Archive, {EntryTrait::ArchiveMountPoint});
+        vfs.children = {{top.path(), EntryList(dir)}, {dir.path(), EntryList(zip)}};
+        EntryEnumerator enumerator;
+        enumerator.setStartEntry(top);
+        walk(enumerator);
+        QCOMPARE(vfs.asked, QStringList({"/top 1", "/top/dir 3"}));
+        enumerator.setIncludeArchives(true);
+        walk(enumerator);
+        QCOMPARE(vfs.asked.mid(2), QStringList({"/top 1", "/top/dir 1", "/top/dir/zip 1"}));
     }
 
 private:

@@ -44,6 +44,7 @@ private:
         int position; // of the entry to be returned next
     };
 
+    bool isEntered(const Entry &entry) const;
     void pushChilds(const Entry &entry, VFS::EntryChildFilters filters);
 
     QStack<Level> m_pending;
