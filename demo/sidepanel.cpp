@@ -7,6 +7,7 @@
 #include "entrydrops.h"
 #include "kiosk.h"
 #include "paneltree.h"
+#include "placedelegate.h"
 
 #include <veskfm/placesmodel.h>
 #include <veskfm/settings.h>
@@ -27,12 +28,14 @@ SidePanel::SidePanel(QWidget *parent)
     m_tree->setObjectName(QStringLiteral("tree"));
     m_places->setAccessibleName(tr("Places"));
     m_tree->setAccessibleName(tr("Folders"));
+    m_places->setItemDelegate(new PlaceDelegate(m_places));
     m_places->setRootIsDecorated(Settings::ptr()->isPlacesCollapsible());
     setChildrenCollapsible(false);
     adopt(m_places, m_placesModel.get());
     adopt(m_tree, m_treeModel.get());
     connect(m_placesModel.get(), &QAbstractItemModel::rowsInserted, this, &SidePanel::showGroups,
             Qt::QueuedConnection); // once the view has them
+    connect(m_placesModel.get(), &QAbstractItemModel::rowsRemoved, this, &SidePanel::showGroups, Qt::QueuedConnection);
     // Rows that come above push the marked one out of the view.
     connect(m_treeModel.get(), &Model::dirListed, this, [this](const Entry &listed) {
         if (m_tree->selectionModel()->hasSelection() && m_directory.path().startsWith(listed.path()))
