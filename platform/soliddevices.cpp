@@ -9,6 +9,7 @@
 #include <Solid/DeviceNotifier>
 #include <Solid/GenericInterface>
 #include <Solid/NetworkShare>
+#include <Solid/OpticalDisc>
 #include <Solid/OpticalDrive>
 #include <Solid/PortableMediaPlayer>
 #include <Solid/StorageAccess>
@@ -41,14 +42,14 @@ int typeOf(const Solid::Device &device)
     if (device.is<Solid::PortableMediaPlayer>())
         return 10;
     const Solid::Device owner = driveOf(device);
+    if (device.is<Solid::OpticalDisc>() || owner.is<Solid::OpticalDrive>())
+        return 2;
     const auto *const drive = owner.as<Solid::StorageDrive>();
     if (!drive)
         return otherType;
     switch (drive->driveType()) {
     case Solid::StorageDrive::HardDisk:
         return drive->isHotpluggable() || drive->isRemovable() ? 3 : 4;
-    case Solid::StorageDrive::CdromDrive:
-        return 2;
     case Solid::StorageDrive::Floppy:
         return 1;
     case Solid::StorageDrive::CompactFlash:
@@ -155,7 +156,8 @@ QVector<StorageDevice> SolidDevices::devices()
 void SolidDevices::listenTo(const Solid::Device &device)
 {
     const auto *const access = device.as<Solid::StorageAccess>();
-    connect(access, &Solid::StorageAccess::accessibilityChanged, this, &DeviceFinder::changed, Qt::UniqueConnection);
+    connect(access, &Solid::StorageAccess::accessibilityChanged, this, &SolidDevices::onAccessibilityChanged,
+            Qt::UniqueConnection);
     connect(access, &Solid::StorageAccess::setupDone, this, &SolidDevices::onDone, Qt::UniqueConnection);
     connect(access, &Solid::StorageAccess::teardownDone, this, &SolidDevices::onDone, Qt::UniqueConnection);
     if (const auto *const facts = device.as<Solid::GenericInterface>())
@@ -166,14 +168,14 @@ void SolidDevices::mount(const QString &id)
 {
     Solid::Device device = m_devices.value(id);
     auto *const access = device.as<Solid::StorageAccess>();
-    start(id, device.udi(), access && access->setup());
+    start(id, device, [access] { return access && access->setup(); });
 }
 
 void SolidDevices::unmount(const QString &id)
 {
     Solid::Device device = m_devices.value(id);
     auto *const access = device.as<Solid::StorageAccess>();
-    start(id, device.udi(), access && access->teardown());
+    start(id, device, [access] { return access && access->teardown(); });
 }
 
 void SolidDevices::eject(const QString &id)
@@ -182,14 +184,13 @@ void SolidDevices::eject(const QString &id)
     auto *const optical = drive.as<Solid::OpticalDrive>();
     if (optical)
         connect(optical, &Solid::OpticalDrive::ejectDone, this, &SolidDevices::onDone, Qt::UniqueConnection);
-    start(id, drive.udi(), optical && optical->eject());
+    start(id, drive, [optical] { return optical && optical->eject(); });
 }
 
-void SolidDevices::start(const QString &id, const QString &udi, bool accepted)
+void SolidDevices::start(const QString &id, const Solid::Device &device, const std::function<bool()> &operation)
 {
-    if (accepted)
-        m_pending.insert(udi, id);
-    else
+    m_pending.insert(device.udi(), id); // first: it may end at once
+    if (!operation() && m_pending.remove(device.udi(), id) > 0)
         Q_EMIT finished(id, tr("The disk service does not do that with this device."));
 }
 
@@ -199,6 +200,12 @@ void SolidDevices::onDone(Solid::ErrorType error, const QVariant &details, const
     if (!id.isEmpty())
         Q_EMIT finished(id, errorOf(error, details));
     Q_EMIT changed();
+}
+
+/// What was asked for is reached; some services tell no other end.
+void SolidDevices::onAccessibilityChanged(bool, const QString &udi)
+{
+    onDone(Solid::NoError, {}, udi);
 }
 
 } // namespace VeskFM

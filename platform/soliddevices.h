@@ -10,6 +10,7 @@
 
 #include <QHash>
 
+#include <functional>
 #include <memory>
 
 namespace VeskFM
@@ -32,8 +33,9 @@ public:
 private:
     SolidDevices();
     void listenTo(const Solid::Device &device);
-    void start(const QString &id, const QString &udi, bool accepted);
+    void start(const QString &id, const Solid::Device &device, const std::function<bool()> &operation);
     void onDone(Solid::ErrorType error, const QVariant &details, const QString &udi);
+    void onAccessibilityChanged(bool accessible, const QString &udi);
 
     QHash<QString, Solid::Device> m_devices; // by id; they tell changes as long as they are kept
     QMultiHash<QString, QString> m_pending;  // ids of devices, by what was asked to do something

@@ -49,7 +49,7 @@ private Q_SLOTS:
     void deliversTheDefaultOrderBackwards();
     void climbsToTheComputer();
     void showsPlaces();
-    void readsFavorites();
+    void tellsLeaves();
     void convertsUrls();
     void answersManyThreads();
 };
@@ -260,26 +260,16 @@ void LocalVfsTest::showsPlaces()
     QVERIFY(vfs.entry("places:/none").isNull() && vfs.entry("relative").isNull() && vfs.entry(QString()).isNull());
 }
 
-void LocalVfsTest::readsFavorites()
+void LocalVfsTest::tellsLeaves()
 {
-    const QString directory = QString::fromLocal8Bit(qgetenv("XDG_CONFIG_HOME")) + "/gtk-3.0";
-    QVERIFY(QDir().mkpath(directory));
-    QFile file(directory + "/bookmarks");
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("file:///usr/share My programs\nsftp://host/dir Remote\n\nnonsense\nfile:///a%20b/%ff\n"
-               "file:///usr/share again\nfile:///\n");
-    file.close();
-    const VFS &vfs = *VFS::ptr();
-    const EntryList favorites = listed(vfs.favoritesEntry());
-    QCOMPARE(favorites.size(), 3);
-    QCOMPARE(vfs.favoritePlace(favorites.at(0)).name(), QStringLiteral("My programs"));
-    QCOMPARE(favorites.at(0).localPath(), QStringLiteral("/usr/share"));
-    QVERIFY(favorites.at(0).isFavoritePlace() && favorites.at(0).isPlace());
-    QCOMPARE(vfs.favoritePlace(favorites.at(2)).name(), QStringLiteral("/"));
-    for (const Entry &favorite : favorites) {
-        QCOMPARE(vfs.entry(favorite.path()), favorite);
-        QCOMPARE(vfs.parent(favorite), vfs.favoritesEntry());
-    }
+    TestTree tree({"leaf/file", "leaf/.hidden", "dirs/file", "dirs/b/", "archives/b.zip", "links/file"});
+    tree.link("leaf/l", "file");
+    tree.link("leaf/broken", "none");
+    tree.link("leaf/endless", "endless");
+    tree.link("links/to a directory", "../leaf");
+    QVERIFY(!VFS::ptr()->mayContainContainers(tree.entry("leaf")));
+    for (const char *name : {"dirs", "archives", "links"})
+        QVERIFY2(VFS::ptr()->mayContainContainers(tree.entry(name)), name);
 }
 
 void LocalVfsTest::convertsUrls()

@@ -1,11 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "fakevfs.h"
 #include "testtree.h"
+
+#include "platform/mounteddevices.h"
 
 #include <veskfm/placesmodel.h>
 #include <veskfm/settings.h>
+#include <veskplatform/favorites.h>
+#include <veskplatform/networkplaces.h>
 #include <veskplatform/standardpaths.h>
+#include <veskplatform/storagemount.h>
 
 #include <QDir>
 #include <QSignalSpy>
@@ -51,9 +57,65 @@ struct Shown
     {
         return model.index(names(parent).indexOf(row), 0, parent);
     }
+    /// A group with its rows fetched, and painted: leaves have lost their expanders.
+    QPersistentModelIndex open(const QString &row)
+    {
+        const QPersistentModelIndex group = at(row);
+        group.data(Qt::DecorationRole);
+        model.fetchMore(group);
+        [&] { QTRY_VERIFY(!model.canFetchMore(group)); }();
+        return group;
+    }
     PlacesModel model;
     QPersistentModelIndex places;
 };
+
+/// Devices that the test plugs in; mounting changes the last one.
+struct FakeStorage : StorageSource
+{
+    QVector<StorageDevice> devices() const override { return present; }
+    void mount(const QString &id) override
+    {
+        present.last().mountPoint = mountPoint;
+        Q_EMIT devicesChanged();
+        Q_EMIT finished(id, QString());
+    }
+    QVector<StorageDevice> present;
+    QString mountPoint;
+};
+
+/// A server with one share.
+struct FakeNetwork : NetworkPlaces
+{
+    Entry entry(const QString &path) const override
+    {
+        return path.startsWith("x:") ? Entry(new FakeEntryData(path, {EntryTrait::Exists, EntryTrait::Place}))
+                                     : Entry();
+    }
+    EntryList childs(const Entry &entry, QAtomicInt *) const override
+    {
+        return EntryList(this->entry(entry.isNetworkPlace() ? "x://s" : "x://s/b"));
+    }
+    Entry parent(const Entry &) const override { return VFS::ptr()->networkEntry(); }
+};
+
+QString bookmarksFile()
+{
+    return QString::fromLocal8Bit(qgetenv("XDG_CONFIG_HOME")) + "/gtk-3.0/bookmarks";
+}
+
+QByteArray bookmarks()
+{
+    QFile file(bookmarksFile());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void setBookmarks(const QByteArray &text)
+{
+    QFile file(bookmarksFile());
+    QDir().mkpath(QFileInfo(file).path());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+}
 
 } // namespace
 
@@ -62,7 +124,11 @@ class PlacesModelTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { hide({}); }
+    void init()
+    {
+        hide({});
+        QDir(QFileInfo(bookmarksFile()).path()).removeRecursively();
+    }
 
     void showsTheGroupsAndTheirPlaces()
     {
@@ -162,6 +228,120 @@ private Q_SLOTS:
             QTEST(opened, "opened");
             QTRY_COMPARE(shown.model.rowCount(), allGroups.size() + 1);
         }
+    }
+
+    void findsMountedDevices()
+    {
+        const MountTable table(
+            "1 0 8:1 / / rw - ext4 /dev/sda1 rw\n2 1 0:5 / /proc rw - proc proc rw\nnonsense\n"
+            "3 1 8:2 / /boot rw - ext4 /dev/sda2 rw\n4 1 7:0 / /snap/x ro - squashfs /dev/loop0 ro\n"
+            "5 1 999:3 / /mnt/My\\040\\134\\303\\244 rw shared:1 master:2 - vfat /dev/sdzz3 rw\n"
+            "6 1 8:1 /sub /mnt/bound rw - ext4 /dev/sda1 rw\n7 1 0:9 / /mnt/far rw - nfs4 host:/x rw\n"
+            "8 1 999:4 / /mnt/under rw - ext4 /dev/sdzz4 rw\n9 8 0:6 / /mnt/under rw - tmpfs tmpfs rw\n"
+            "10 1 999:5 / /run/media/u/d ro - iso9660 /dev/sr9 ro\n11 1 8:1 / - -\n");
+        QStringList found;
+        for (const StorageDevice &device : MountedDevices::devicesOf(table))
+            found.append(QString("%1 %2 %3 %4").arg(device.id, device.label, device.mountPoint).arg(device.type));
+        QCOMPARE(found, QStringList({u8"sdzz3 sdzz3 /mnt/My \\ä 4", "sr9 sr9 /run/media/u/d 2"}));
+        QVERIFY(table.ofPath("/mnt/far/a/b")->mayHang() && !table.ofPath("/mnt/farther")->mayHang());
+    }
+
+    void followsDevices()
+    {
+        TestTree tree({"inside/"});
+        FakeStorage storage;
+        storage.mountPoint = tree.path();
+        StorageSource::install(&storage);
+        Shown shown;
+        const QPersistentModelIndex devices = shown.open("StorageDevices");
+        QVERIFY(shown.names(devices).isEmpty() && !shown.model.hasChildren(devices));
+        storage.present.append({"sdb 1", 3, "Stick", {}, {}, true, false, false});
+        Q_EMIT storage.devicesChanged();
+        QTRY_COMPARE(shown.names(devices), QStringList("Stick"));
+        storage.present.prepend({"sr0", 2, "Film", {}, "/none", false, true, false});
+        Q_EMIT storage.devicesChanged();
+        QTRY_COMPARE(shown.names(devices), QStringList({"Film (/none)", "Stick"}));
+        const QPersistentModelIndex row = shown.model.index(1, 0, devices);
+        const Entry place = shown.model.entryByIndex(row);
+        row.data(Qt::DecorationRole);
+        QVERIFY(place.isStoragePlace() && place.isPurePlace() && !shown.model.hasChildren(row));
+        StorageMount mount;
+        QSignalSpy finished(&mount, &StorageMount::finished);
+        mount.mount(place);
+        QVERIFY(StorageMount::canMount(place) && finished.isEmpty() && finished.wait());
+        QTRY_COMPARE(shown.names(row), QStringList("inside")); // without having been expanded
+        QCOMPARE(row.data().toString(), QString("Stick (%1)").arg(tree.path()));
+        mount.eject(place);
+        QVERIFY(finished.wait() && !finished.last().at(1).toString().isEmpty()); // cannot, and says so
+        storage.present.removeLast();
+        Q_EMIT storage.devicesChanged();
+        QTRY_COMPARE(shown.names(devices), QStringList("Film (/none)"));
+        StorageSource::install(nullptr);
+    }
+
+    void followsFavorites_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QStringList>("rows");
+        QTest::addColumn<int>("open"); // branches that stay so
+        QTest::newRow("one more") << QByteArray("file:///usr\nfile:///a%20b/%ff x\nfile:///etc\nfile:///var\nno\n")
+                                  << QStringList({"usr", "x", "etc", "var"}) << 3;
+        QTest::newRow("another order") << QByteArray("file:///var\nfile:///usr\nfile:///etc\nfile:///var twice")
+                                       << QStringList({"var", "usr", "etc"}) << 2;
+        QTest::newRow("all at once") << QByteArray("file:///var V\nfile:///\nftp://h/x\nfile:///usr\n")
+                                     << QStringList({"V", "/", "usr"}) << 1;
+    }
+
+    void followsFavorites()
+    {
+        Shown shown;
+        const QPersistentModelIndex favorites = shown.open("Favorites"); // the directory of their file is still to come
+        setBookmarks("file:///usr\nfile:///etc\nfile:///var\n");
+        QTRY_COMPARE(shown.names(favorites), QStringList({"usr", "etc", "var"}));
+        QList<QPersistentModelIndex> branches;
+        for (int row = 0; row < 3; ++row)
+            branches.append(shown.model.index(row, 0, favorites));
+        QFETCH(QByteArray, text);
+        QFETCH(QStringList, rows);
+        setBookmarks(text);
+        QTRY_COMPARE(shown.names(favorites), rows);
+        QTEST(int(std::count_if(branches.begin(), branches.end(), [](const auto &row) { return row.isValid(); })),
+              "open");
+    }
+
+    void editsFavorites()
+    {
+        TestTree tree({"a b/", "c/", "file"});
+        const auto line = [&](const char *name) { return QUrl::fromLocalFile(tree.path(name)).toEncoded() + '\n'; };
+        const Entry a = tree.entry("a b");
+        QString error;
+        QVERIFY(Favorites::add(a) && !Favorites::add(tree.entry("file"), 0, &error) && !error.isEmpty());
+        const QByteArray strange("# no bookmark\nsftp://server/x Far away\n\xff\xfe\n");
+        setBookmarks(strange + bookmarks() + "file:///usr");
+        QVERIFY(Favorites::add(tree.entry("c"), 1) && Favorites::rename(a, "My\nown") && Favorites::move(a, 2));
+        QCOMPARE(bookmarks(), strange + line("c") + "file:///usr\n" + line("a b").trimmed() + " My own\n");
+        const Entry favorite = VFS::ptr()->childs(VFS::ptr()->favoritesEntry(), {}, nullptr).value(0);
+        QVERIFY(Favorites::remove(favorite) && !Favorites::remove(favorite) && !Favorites::remove(Entry()));
+        QCOMPARE(bookmarks(), strange + "file:///usr\n" + line("a b").trimmed() + " My own\n");
+        QVERIFY(QFile::remove(bookmarksFile()) && QDir().mkpath(bookmarksFile()));
+        QVERIFY(!Favorites::add(a, 0, &error) && error.contains(bookmarksFile()));
+    }
+
+    void plugsInTheNetwork()
+    {
+        setBookmarks("x://s/b\n");
+        Shown shown;
+        const QPersistentModelIndex favorites = shown.open("Favorites");
+        const QPersistentModelIndex servers = shown.open("Network");
+        QVERIFY(shown.names(servers).isEmpty() && shown.names(favorites).isEmpty()
+                && !shown.model.hasChildren(servers));
+        FakeNetwork network;
+        NetworkPlaces::install(&network);
+        QTRY_VERIFY(shown.names(servers) == QStringList("s") && shown.names(favorites) == QStringList("b"));
+        shown.model.fetchMore(shown.at("s", servers));
+        QTRY_COMPARE(shown.names(shown.at("s", servers)), QStringList("b"));
+        NetworkPlaces::install(nullptr);
+        QTRY_VERIFY(shown.names(servers).isEmpty() && shown.names(favorites).isEmpty());
     }
 };
 
