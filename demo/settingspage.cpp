@@ -58,7 +58,8 @@ void SettingsPage::addFlag(const char *key, const QString &text, bool (Settings:
     box->setObjectName(QLatin1String(key));
     m_layout->addRow(box);
     m_loaders.emplace_back([this, box, get] { box->setChecked((m_settings->*get)()); });
-    connect(box, &QCheckBox::clicked, this, [this, set](bool on) { (m_settings->*set)(on); });
+    const std::function<void(Settings *, bool)> write = set; // by itself it looks uninitialised to sanitizing compilers
+    connect(box, &QCheckBox::clicked, this, [this, write](bool on) { write(m_settings, on); });
 }
 
 void SettingsPage::addFixedFlag(const char *key, const QString &text, bool (Settings::*get)() const)
