@@ -10,6 +10,7 @@ set(VESKFM_SHARE_DIR "/usr/share/veskfm" CACHE PATH "The file manager's shared d
 set(VESKFM_TEMPLATES_DIR "/usr/share/veskfm/templates/" CACHE STRING "System-wide templates of new files")
 set(VESKFM_MODE_TOOL "/usr/sbin/zarnel-modeswitch" CACHE FILEPATH "Program that prints the security mode")
 set(VESKFM_ROOT_DISPLAY_TOOL "/usr/bin/vesk-xephyr.sh" CACHE FILEPATH "Program that starts others on the root display")
+set(VESKFM_ARCHIVE_READER "${CMAKE_INSTALL_FULL_LIBEXECDIR}/vesk-archive" CACHE FILEPATH "Program that reads archives")
 set(VESKFM_TRACE_FILE "/tmp/log" CACHE FILEPATH "File that the tracer writes")
 
 configure_file(${PROJECT_SOURCE_DIR}/core/fixedplaces.h.in ${PROJECT_BINARY_DIR}/generated/fixedplaces.h @ONLY)

@@ -3,61 +3,122 @@
 
 #include <veskplatform/archivemount.h>
 
-#include <veskplatform/vfs.h>
+#include "archivenodes.h"
+#include "archiveproblems.h"
+#include "localarchivemounts.h"
+#include "localentrydata.h"
 
-#include <QCoreApplication>
+#include <QAtomicInt>
 #include <QTimer>
 
 namespace VeskFM
 {
 
+namespace
+{
+constexpr int pollMs = 20;
+}
+
+/// Holds one reference on a mount, or none.
 class ArchiveMountPrivate
 {
 public:
-    QTimer answer;
+    QString archive; // VFS path
+    QString mount;
+    LocalArchiveMounts::Job job; // null when nothing is mounted or being mounted
     QString problem;
+    QTimer poll; // while start() has not been answered
+    int toldPercent = 0;
+
+    void release()
+    {
+        poll.stop();
+        if (std::exchange(job, nullptr))
+            LocalArchiveMounts::instance().unrefMountPath(mount);
+    }
+    void take(const Entry &entry)
+    {
+        release();
+        toldPercent = 0;
+        problem.clear();
+        archive = ArchiveNodes::archiveOf(entry);
+        mount = archive.isEmpty() ? QString() : LocalArchiveMounts::instance().mountPathOf(archive);
+        job = LocalArchiveMounts::instance().ref(mount);
+    }
+    bool isMounted() const { return job && job->isFinished() && job->error() == ArchiveError::None; }
+    /// Once the job has finished, or there is none. Returns whether it is mounted.
+    bool settle(const Entry &entry)
+    {
+        if (isMounted())
+            return true;
+        problem = archive.isEmpty()
+            ? ArchiveProblems::text(entry.path(), ArchiveError::Damaged)
+            : ArchiveProblems::text(archive, job ? job->error() : ArchiveError::Unreadable, job ? 0 : ENOENT);
+        release();
+        return false;
+    }
 };
 
 ArchiveMount::ArchiveMount(QObject *parent)
     : QObject(parent)
     , d(new ArchiveMountPrivate)
 {
-    d->answer.setSingleShot(true);
-    connect(&d->answer, &QTimer::timeout, this, [this] { Q_EMIT finished(false); });
 }
 
-ArchiveMount::~ArchiveMount() = default;
-
-bool ArchiveMount::isInArchive(const Entry &)
+ArchiveMount::~ArchiveMount()
 {
-    return false;
+    d->release();
+}
+
+bool ArchiveMount::isInArchive(const Entry &entry)
+{
+    return ArchiveNodeData::of(entry);
 }
 
 Entry ArchiveMount::archiveOf(const Entry &entry)
 {
+    if (const ArchiveNodeData *const node = ArchiveNodeData::of(entry))
+        return makeLocalEntry(node->archive(), false, true);
     return entry.isArchiveMountPoint() ? entry : Entry();
 }
 
 void ArchiveMount::start(const Entry &entry)
 {
-    mount(entry, nullptr);
-    d->answer.start(0);
+    d->take(entry);
+    d->poll.disconnect(this);
+    connect(&d->poll, &QTimer::timeout, this, [this, entry] {
+        const bool isSettled = !d->job || d->job->isFinished();
+        if (isSettled) {
+            d->poll.stop();
+            Q_EMIT finished(d->settle(entry));
+        } else if (d->job->percent() != d->toldPercent) {
+            d->toldPercent = d->job->percent();
+            Q_EMIT progress(d->toldPercent);
+        }
+    });
+    d->poll.start(pollMs);
 }
 
 void ArchiveMount::cancel()
 {
-    d->answer.stop();
+    if (!d->isMounted())
+        d->release();
+    d->poll.stop();
 }
 
-bool ArchiveMount::mount(const Entry &entry, QAtomicInt *)
+bool ArchiveMount::mount(const Entry &entry, QAtomicInt *cancel)
 {
-    d->problem = QCoreApplication::translate("ArchiveProblem", "%1 is no archive").arg(entry.fileName());
-    return false;
+    d->take(entry);
+    if (d->job && !d->job->wait(-1, [cancel] { return cancel && cancel->loadRelaxed() != 0; })) {
+        d->release();
+        return false;
+    }
+    return d->settle(entry);
 }
 
 bool ArchiveMount::isMounted() const
 {
-    return false;
+    return d->isMounted();
 }
 
 QString ArchiveMount::problem() const
@@ -65,9 +126,13 @@ QString ArchiveMount::problem() const
     return d->problem;
 }
 
-Entry ArchiveMount::localEntry(const Entry &) const
+Entry ArchiveMount::localEntry(const Entry &entry) const
 {
-    return {};
+    const bool isOurs = d->isMounted() && ArchiveNodes::archiveOf(entry) == d->archive;
+    if (!isOurs)
+        return {};
+    const ArchiveNodeData *const node = ArchiveNodeData::of(entry);
+    return makeLocalEntry(node ? d->mount + QLatin1Char('/') + node->innerPath() : d->mount);
 }
 
 } // namespace VeskFM

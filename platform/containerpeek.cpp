@@ -68,13 +68,6 @@ bool countsSubdirectories(const Mount *mount)
         && std::any_of(std::begin(known), std::end(known), [&](const char *type) { return mount->type == type; });
 }
 
-bool isArchive(const char *name)
-{
-    struct stat file = {};
-    file.st_mode = S_IFREG; // so listings judge by the name
-    return LocalFacts::of(file, nullptr, name, int(strlen(name)), false).kind == Entry::Archive;
-}
-
 /// A look at the names of one directory, whose path has no links in it.
 class Peek
 {
@@ -114,7 +107,7 @@ private:
 
     bool mayBeContainer(const dirent &found)
     {
-        if (found.d_type == DT_DIR || isArchive(found.d_name))
+        if (found.d_type == DT_DIR || LocalFacts::isArchiveName(found.d_name, int(strlen(found.d_name))))
             return true;
         if (found.d_type != DT_LNK && found.d_type != DT_UNKNOWN)
             return false;

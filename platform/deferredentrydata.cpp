@@ -32,7 +32,7 @@ int DeferredEntryData::type() const
 
 bool DeferredEntryData::is(EntryTrait trait) const
 {
-    return trait < EntryTrait::ArchiveMountPoint && looked().is(trait); // no place, whatever the disk says
+    return trait <= EntryTrait::ArchiveMountPoint && looked().is(trait); // no place, whatever the disk says
 }
 
 QString DeferredEntryData::localPath() const
@@ -53,6 +53,11 @@ QString DeferredEntryData::lastPathSection() const
 QString DeferredEntryData::symLinkTarget() const
 {
     return looked().symLinkTarget();
+}
+
+QString DeferredEntryData::archiveMountPointOrLocalPath() const
+{
+    return looked().archiveMountPointOrLocalPath();
 }
 
 qint64 DeferredEntryData::fileSize() const

@@ -28,6 +28,7 @@ public:
     QString fileName() const override;
     QString lastPathSection() const override;
     QString symLinkTarget() const override;
+    QString archiveMountPointOrLocalPath() const override;
     qint64 fileSize() const override;
 
 private:

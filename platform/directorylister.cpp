@@ -81,6 +81,14 @@ struct NameChunk
     }
 };
 
+/// Without a look at the node itself.
+bool mayBeContainer(const char *name, int kind, int nameSize, bool archivesAsFiles)
+{
+    if (kind == DT_REG)
+        return !archivesAsFiles && LocalFacts::isArchiveName(name, nameSize);
+    return kind == DT_DIR || kind == DT_LNK || kind == DT_UNKNOWN;
+}
+
 /// Makes rows of names: one system call each, two for links.
 class RowMaker
 {
@@ -97,7 +105,7 @@ public:
     /// Null for what is gone or not wanted.
     LocalEntryData *make(const char *name, const FoundName &found) const
     {
-        if (m_containersOnly && found.kind != DT_DIR && found.kind != DT_LNK && found.kind != DT_UNKNOWN)
+        if (m_containersOnly && !mayBeContainer(name, found.kind, found.size, m_archivesAsFiles))
             return nullptr;
         struct stat own;
         struct stat target;
@@ -110,7 +118,7 @@ public:
         const bool link = S_ISLNK(own.st_mode);
         const bool reached = link && fstatat(m_fd, name, &target, 0) == 0;
         LocalFacts facts = LocalFacts::of(own, reached ? &target : nullptr, name, found.size, m_archivesAsFiles);
-        if (m_containersOnly && facts.kind != Entry::Dir && facts.kind != Entry::DirLink)
+        if (m_containersOnly && (facts.kind == Entry::File || facts.kind == Entry::FileLink))
             return nullptr;
         int nameSize = 0;
         const QString path = pathOf(name, found.size, &nameSize, &facts);
@@ -268,7 +276,7 @@ DirectoryListing listDirectory(const QString &path, VFS::EntryChildFilters filte
     return result;
 }
 
-bool hasSubdirectory(const QString &path)
+bool hasContainer(const QString &path)
 {
     OpenDirectory directory(path);
     const DirHandle dir = streamOf(&directory);
@@ -280,8 +288,10 @@ bool hasSubdirectory(const QString &path)
         if (found->d_type == DT_DIR)
             return true;
         struct stat node;
-        if ((found->d_type == DT_LNK || found->d_type == DT_UNKNOWN)
-            && fstatat(dirfd(dir.get()), found->d_name, &node, AT_NO_AUTOMOUNT) == 0 && S_ISDIR(node.st_mode))
+        const int size = int(strlen(found->d_name));
+        if (mayBeContainer(found->d_name, found->d_type, size, false)
+            && fstatat(dirfd(dir.get()), found->d_name, &node, AT_NO_AUTOMOUNT) == 0
+            && (S_ISDIR(node.st_mode) || LocalFacts::isArchive(node, found->d_name, size)))
             return true;
     }
     return false;

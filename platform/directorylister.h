@@ -24,7 +24,7 @@ struct DirectoryListing
 /// @param cancel may be null; when it is not zero, what was found so far comes back soon
 DirectoryListing listDirectory(const QString &path, VFS::EntryChildFilters filters, const QAtomicInt *cancel);
 
-/// Whether there is a directory (or a link to one) in the directory @p path. Stops at the first one.
-bool hasSubdirectory(const QString &path);
+/// Whether there is a directory or an archive (or a link to one) in the directory @p path. Stops at the first one.
+bool hasContainer(const QString &path);
 
 } // namespace VeskFM

@@ -3,6 +3,7 @@
 
 #include "localentrydata.h"
 
+#include "localarchivemounts.h"
 #include "pathcodec.h"
 
 #include <veskplatform/standardpaths.h>
@@ -55,38 +56,39 @@ constexpr quint64 packed(const char *text)
         value = (value << 8) | uchar(*text);
     return value;
 }
+} // namespace
 
 /// Asked of every file that is listed, hence the numbers.
-bool isArchiveName(const char *name, int size)
+bool LocalFacts::isArchiveName(const char *name, int nameSize)
 {
-    constexpr int longestSuffix = 5;
-    int dot = size - 1;
-    while (dot > 0 && size - 1 - dot < longestSuffix && name[dot] != '.')
+    constexpr int longestSuffix = 4;
+    int dot = nameSize - 1;
+    while (dot > 0 && nameSize - 1 - dot < longestSuffix && name[dot] != '.')
         --dot;
     if (dot <= 0 || name[dot] != '.')
         return false;
     quint64 suffix = 0;
-    for (int i = dot + 1; i < size; ++i)
+    for (int i = dot + 1; i < nameSize; ++i)
         suffix = (suffix << 8) | uchar(name[i] | 0x20); // letters in lower case; digits are the same with it
     switch (suffix) {
     case packed("zip"):
     case packed("7z"):
-    case packed("rar"):
     case packed("tar"):
     case packed("tgz"):
-    case packed("taz"):
     case packed("tbz"):
     case packed("tbz2"):
     case packed("txz"):
-    case packed("tlz"):
     case packed("tzst"):
-    case packed("cpio"):
         return true;
-    default: // a tar archive, whatever packed it
-        return suffix != 0 && dot > 4 && strncasecmp(name + dot - 4, ".tar", 4) == 0;
+    case packed("gz"):
+    case packed("bz2"):
+    case packed("xz"):
+    case packed("zst"):
+        return dot > 4 && strncasecmp(name + dot - 4, ".tar", 4) == 0;
+    default:
+        return false;
     }
 }
-} // namespace
 
 LocalFacts LocalFacts::of(const struct stat &own, const struct stat *target, const char *name, int nameSize,
                           bool archivesAsFiles)
@@ -104,7 +106,7 @@ LocalFacts LocalFacts::of(const struct stat &own, const struct stat *target, con
         facts.kind = link ? Entry::DirLink : Entry::Dir;
     } else {
         facts.size = node.st_size;
-        const bool archive = !archivesAsFiles && S_ISREG(node.st_mode) && isArchiveName(name, nameSize);
+        const bool archive = !archivesAsFiles && isArchive(node, name, nameSize);
         facts.kind = archive ? (link ? Entry::ArchiveLink : Entry::Archive) : (link ? Entry::FileLink : Entry::File);
     }
     if (!S_ISLNK(node.st_mode) && credentials.mayExecute(node))
@@ -127,9 +129,16 @@ bool LocalFacts::is(EntryTrait trait) const
         return flags & Hidden;
     case EntryTrait::Executable:
         return flags & Executable;
+    case EntryTrait::ArchiveMountPoint:
+        return kind == Entry::Archive || kind == Entry::ArchiveLink;
     default:
         return false;
     }
+}
+
+bool LocalFacts::isArchive(const struct stat &node, const char *name, int nameSize)
+{
+    return S_ISREG(node.st_mode) && node.st_size > 0 && isArchiveName(name, nameSize);
 }
 
 LocalFacts LocalFacts::of(const QByteArray &path, bool archivesAsFiles)
@@ -185,6 +194,13 @@ QString LocalEntryData::fileName() const
 QString LocalEntryData::lastPathSection() const
 {
     return m_nameSize == 0 ? m_path : fileName();
+}
+
+QString LocalEntryData::archiveMountPointOrLocalPath() const
+{
+    const QString mount =
+        is(EntryTrait::ArchiveMountPoint) ? LocalArchiveMounts::instance().mountPathOf(m_path) : QString();
+    return mount.isEmpty() ? localPath() : mount;
 }
 
 qint64 LocalEntryData::fileSize() const

@@ -31,6 +31,11 @@ struct LocalFacts
                          bool archivesAsFiles);
     /// What kind and flags alone tell; false for everything else.
     bool is(EntryTrait trait) const;
+    /// Whether vesk-archive reads files of such names.
+    static bool isArchiveName(const char *name, int nameSize);
+    /// Whether a node, with links resolved, is an archive that can be entered: by its name, and because it is a file that
+    /// holds something.
+    static bool isArchive(const struct stat &node, const char *name, int nameSize);
     /// Looks at the disk; without the flag Exists where there is nothing.
     static LocalFacts of(const QByteArray &path, bool archivesAsFiles = false);
 };
@@ -50,6 +55,7 @@ public:
     QString localPath() const override; ///< empty for a path that the toolkit's file classes would take for another
     QString fileName() const override;
     QString lastPathSection() const override; ///< "/" for the root
+    QString archiveMountPointOrLocalPath() const override;
     qint64 fileSize() const override;
 
     QStringView name() const; ///< valid as long as this object

@@ -3,6 +3,7 @@
 
 #include "localentrywatcher.h"
 
+#include "archivenodes.h"
 #include "deferredentrydata.h"
 #include "localentrydata.h"
 #include "localvfs.h"
@@ -37,15 +38,27 @@ QString childPath(const QString &directory, const QByteArray &name)
     return directory.endsWith(QLatin1Char('/')) ? directory + text : directory + QLatin1Char('/') + text;
 }
 
+/// Whether one of the changes in @p directory concerns the archive that @p shown is or lies in.
+bool hasArchiveChanged(const Entry &shown, const QString &directory, const std::vector<PendingChanges::Change> &changes)
+{
+    const QString archive = ArchiveNodes::archiveOf(shown);
+    return !archive.isEmpty() && std::any_of(changes.begin(), changes.end(), [&](const PendingChanges::Change &change) {
+        return childPath(directory, change.name) == archive;
+    });
+}
+
 QByteArray parentDirectory(const QByteArray &directory)
 {
     return PathCodec::encode(VFS::parentDirPath(PathCodec::decode(directory)));
 }
 
 /// The directory whose changes concern @p entry; empty for places that are not told of here. That of the favorites is
-/// where their file is, or where the way to it begins.
+/// where their file is, or where the way to it begins; that of what lies in an archive, where the archive is.
 QByteArray watchedDirectory(const Entry &entry)
 {
+    const QString archive = ArchiveNodes::archiveOf(entry);
+    if (!archive.isEmpty())
+        return PathCodec::encode(VFS::parentDirPath(archive));
     if (!entry.isFavoritesPlace())
         return PathCodec::encode(LocalVfs::diskPath(entry));
     QByteArray directory = parentDirectory(PathCodec::encode(FavoritePlaces::file()));
@@ -62,6 +75,7 @@ LocalEntryWatcher::LocalEntryWatcher(LocalVfs *vfs)
 {
     m_clock.start();
     m_listings.setMaxThreadCount(listingThreads);
+    m_archiveListings.setMaxThreadCount(listingThreads);
 }
 
 LocalEntryWatcher::~LocalEntryWatcher()
@@ -89,7 +103,9 @@ void LocalEntryWatcher::stop()
     runningWatcher.compare_exchange_strong(self, nullptr);
     m_cancel.storeRelaxed(1);
     m_listings.clear();
+    m_archiveListings.clear();
     m_listings.waitForDone(stopTimeoutMs);
+    m_archiveListings.waitForDone(stopTimeoutMs);
     m_reader.stop(); // after those that watch through it
     m_registry.clear();
     m_poller.clear();
@@ -108,7 +124,8 @@ void LocalEntryWatcher::listDir(const Entry &entry, VFS::EntryChildFilters filte
     const QByteArray directory = entry.isNull() ? QByteArray() : watchedDirectory(entry);
     if (!directory.isEmpty())
         m_registry.beginListing(directory, entry, filters);
-    m_listings.start([=] { list(entry, filters, directory); });
+    QThreadPool &listings = ArchiveNodes::archiveOf(entry).isEmpty() ? m_listings : m_archiveListings;
+    listings.start([=] { list(entry, filters, directory); });
 }
 
 void LocalEntryWatcher::list(const Entry &entry, VFS::EntryChildFilters filters, const QByteArray &directory)
@@ -126,7 +143,7 @@ void LocalEntryWatcher::list(const Entry &entry, VFS::EntryChildFilters filters,
     Q_EMIT dirListed(entry, filters, children);
     if (directory.isEmpty())
         return;
-    if (error == ENOENT)
+    if (error == ENOENT && ArchiveNodes::archiveOf(entry).isEmpty())
         m_registry.setMoved(directory);
     m_registry.endListing(directory);
     const QList<QByteArray> unused = m_registry.takeUnused(generousDirectories);
@@ -283,7 +300,10 @@ void LocalEntryWatcher::tellDirectory(const DirectoryNews &news)
     }
     for (const ShownEntry &shown : news.shown) {
         // New children belong to the directory, which nobody shows under a place.
-        if (shown.entry.path() != directory && (kinds & PendingChanges::Created))
+        const bool isConcerned = ArchiveNodes::archiveOf(shown.entry).isEmpty()
+            ? shown.entry.path() != directory && (kinds & PendingChanges::Created)
+            : hasArchiveChanged(shown.entry, directory, news.changes);
+        if (isConcerned)
             Q_EMIT entryReset(shown.entry);
     }
 }

@@ -75,6 +75,7 @@ private:
     QSet<QString> m_bad; // paths
     InotifyReader m_reader;
     QThreadPool m_listings;
+    QThreadPool m_archiveListings; // their own, as these may take long
 };
 
 } // namespace VeskFM

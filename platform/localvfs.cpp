@@ -3,9 +3,12 @@
 
 #include "localvfs.h"
 
+#include "archivefile.h"
+#include "archivenodes.h"
 #include "containerpeek.h"
 #include "deferredentrydata.h"
 #include "directorylister.h"
+#include "localarchivemounts.h"
 #include "localentrydata.h"
 #include "localentrywatcher.h"
 #include "localurls.h"
@@ -16,6 +19,7 @@
 
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <memory>
 
@@ -42,6 +46,15 @@ QByteArray withoutDotDot(const QByteArray &path)
         return path;
     const std::unique_ptr<char, FreeDeleter> resolved(realpath(path.left(end).constData(), nullptr));
     return resolved ? QByteArray(resolved.get()) + path.mid(end) : QByteArray();
+}
+
+/// A path that leads through an archive: in there, ".." is a matter of names. Empty for any other path.
+QString pathInArchive(const QString &path)
+{
+    const QString archive = ArchiveFile::around(path);
+    const QString inner = QDir::cleanPath(path.mid(archive.size() + 1));
+    const bool leadsOut = inner == QLatin1String("..") || inner.startsWith(QLatin1String("../"));
+    return archive.isEmpty() || leadsOut ? QString() : QDir::cleanPath(archive + QLatin1Char('/') + inner);
 }
 
 /// The home directory as one of the fixed roots. Met in a listing it is a directory like any other.
@@ -81,7 +94,7 @@ QString LocalVfs::diskPath(const Entry &entry)
 QString LocalVfs::canonicalPath(const QString &path)
 {
     const QByteArray bytes = withoutDotDot(PathCodec::encode(path));
-    return bytes.startsWith('/') ? QDir::cleanPath(PathCodec::decode(bytes)) : QString();
+    return bytes.startsWith('/') ? QDir::cleanPath(PathCodec::decode(bytes)) : pathInArchive(path);
 }
 
 Entry LocalVfs::entry(const QString &path) const
@@ -89,7 +102,8 @@ Entry LocalVfs::entry(const QString &path) const
     if (LocalPlaces::isPlacePath(path))
         return m_places.entry(path);
     const QString canonical = canonicalPath(path);
-    return canonical.isEmpty() ? Entry() : makeLocalEntry(canonical);
+    const Entry found = canonical.isEmpty() ? Entry() : makeLocalEntry(canonical);
+    return found.isNull() && !canonical.isEmpty() ? ArchiveNodes::entry(canonical) : found;
 }
 
 Entry LocalVfs::rootEntry() const
@@ -131,6 +145,8 @@ Entry LocalVfs::parent(const Entry &entry) const
 {
     if (!isLocal(entry))
         return m_places.parent(entry);
+    if (const ArchiveNodeData *const node = ArchiveNodeData::of(entry))
+        return ArchiveNodes::parent(*node);
     const QString directory = parentDirPath(entry.path());
     return directory.isEmpty() ? m_places.computer() : Entry(new DeferredEntryData(directory));
 }
@@ -152,6 +168,8 @@ EntryList LocalVfs::childs(const Entry &entry, EntryChildFilters filters, QAtomi
 
 EntryList LocalVfs::childs(const Entry &entry, EntryChildFilters filters, QAtomicInt *cancel, int *error) const
 {
+    if (!ArchiveNodes::archiveOf(entry).isEmpty())
+        return ArchiveNodes::childs(entry, filters, cancel, error);
     const QString directory = diskPath(entry);
     if (directory.isEmpty()) {
         EntryList places = m_places.childEntries(entry, cancel);
@@ -195,7 +213,9 @@ bool LocalVfs::isEntryExists(const Entry &entry) const
         return !m_places.entry(entry.path()).isNull();
     struct stat facts;
     const QByteArray bytes = PathCodec::encode(entry.path());
-    return !bytes.isEmpty() && lstat(bytes.constData(), &facts) == 0;
+    if (!bytes.isEmpty() && lstat(bytes.constData(), &facts) == 0)
+        return true;
+    return !bytes.isEmpty() && errno == ENOTDIR && !ArchiveNodes::entry(entry.path()).isNull();
 }
 
 QString LocalVfs::localPath(const QString &path) const
@@ -209,6 +229,8 @@ QString LocalVfs::localPath(const QString &path) const
         return m_places.entry(path).localPath();
     const bool isMarkedAsDir = disk.endsWith(QLatin1Char('/')); // stays: some compare paths exactly
     disk = canonicalPath(disk);
+    if (!ArchiveFile::around(disk).isEmpty())
+        return entry(disk).localPath();
     if (isMarkedAsDir && !disk.endsWith(QLatin1Char('/')))
         disk += QLatin1Char('/');
     return PathCodec::isPortable(disk) ? disk : QString();
@@ -227,7 +249,9 @@ QList<QUrl> LocalVfs::urlsFromEntries(const EntryList &entries) const
     for (const Entry &entry : entries) {
         if (entry.isNull())
             continue;
-        const QString disk = diskPath(entry);
+        const ArchiveNodeData *const node = ArchiveNodeData::of(entry);
+        const QString mounted = node ? node->pathInMount() : QString();
+        const QString disk = mounted.isEmpty() ? diskPath(entry) : mounted;
         urls.append(disk.isEmpty() ? QUrl(entry.path()) : fileUrlOfPath(disk));
     }
     return urls;
@@ -238,7 +262,8 @@ EntryList LocalVfs::entriesFromUrls(const QList<QUrl> &urls) const
     EntryList entries;
     for (const QUrl &url : urls) {
         const QString disk = pathFromFileUrl(url);
-        const Entry found = entry(disk.isEmpty() ? url.toString() : disk);
+        const QString inArchive = LocalArchiveMounts::instance().archivePathOf(disk);
+        const Entry found = entry(!inArchive.isEmpty() ? inArchive : disk.isEmpty() ? url.toString() : disk);
         if (!found.isNull())
             entries.append(found);
     }
@@ -247,6 +272,8 @@ EntryList LocalVfs::entriesFromUrls(const QList<QUrl> &urls) const
 
 bool LocalVfs::mayContainContainers(const Entry &entry) const
 {
+    if (const ArchiveNodeData *const node = ArchiveNodeData::of(entry))
+        return ArchiveNodes::hasDirs(*node);
     if (entry.isArchiveMountPoint())
         return true;
     if (entry.isPlace())
@@ -257,7 +284,9 @@ bool LocalVfs::mayContainContainers(const Entry &entry) const
 bool LocalVfs::containsContainers(const Entry &entry) const
 {
     const QString directory = diskPath(entry);
-    return directory.isEmpty() ? !childs(entry, ContainersOnly, nullptr).isEmpty() : hasSubdirectory(directory);
+    if (directory.isEmpty() || !ArchiveNodes::archiveOf(entry).isEmpty())
+        return !childs(entry, ContainersOnly, nullptr).isEmpty();
+    return hasContainer(directory);
 }
 
 bool LocalVfs::isOnSlowFileSystem(const QString &path, const QString &localPath) const
@@ -310,7 +339,7 @@ VFSPlaceBase *LocalVfs::placeBase() const
 
 ArchiveMountsManagerProxy *LocalVfs::archiveMountsManager() const
 {
-    return &m_archiveMounts;
+    return &LocalArchiveMounts::instance();
 }
 
 EntryWatcher *LocalVfs::entryWatcher() const

@@ -4,7 +4,6 @@
 #pragma once
 
 #include "filesystemkinds.h"
-#include "localarchivemounts.h"
 #include "localplaces.h"
 
 #include <veskplatform/vfs.h>
@@ -60,7 +59,7 @@ public:
     ArchiveMountsManagerProxy *archiveMountsManager() const override;
     EntryWatcher *entryWatcher() const override;
 
-    /// The path of the disk behind @p entry; empty for a place without one.
+    /// The path of the disk behind @p entry; empty for a place without one. Of what lies in an archive, the VFS path.
     static QString diskPath(const Entry &entry);
     /// An absolute path as it names the node: no needless slashes and dots, ".." as the system takes it, names as
     /// PathCodec writes them. Empty for what cannot be a path of the disk.
@@ -74,7 +73,6 @@ private:
     const Entry m_home;
     LocalEntryWatcher *const m_watcher; // child
     mutable LocalPlaces m_places;
-    mutable LocalArchiveMounts m_archiveMounts;
     FileSystemKinds m_fileSystems;
 };
 

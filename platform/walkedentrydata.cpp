@@ -53,7 +53,7 @@ QString WalkedEntryData::path() const
 
 int WalkedEntryData::type() const
 {
-    return isLink() ? looked().type() : m_kind;
+    return mayBeArchive() ? looked().type() : m_kind;
 }
 
 bool WalkedEntryData::is(EntryTrait trait) const

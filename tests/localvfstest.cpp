@@ -135,26 +135,29 @@ void LocalVfsTest::takesPathsAsTheSystemDoes()
 
 void LocalVfsTest::knowsWhatItListed()
 {
-    TestTree tree({"file", ".dir/", "program", "a.ZIP", "a.tar.new", ".zip", "gzip", "d.zip/"});
+    TestTree tree({"file", ".dir/", "program", "a.ZIP", "a.tar.xz", "a.rar", ".zip", "gzip", "d.zip/"});
     chmod(tree.bytes("program").constData(), 0755);
     tree.link("l-file", "file");
     tree.link("l-dir", tree.bytes(".dir"));
     tree.link("l.zip", "a.ZIP");
     tree.link("broken", "nowhere");
     tree.link("endless", "endless");
+    tree.write("gzip", "");
+    tree.link("empty.zip", "gzip");
     mkfifo(tree.bytes("pipe.zip").constData(), 0644);
     QStringList descriptions;
     for (const Entry &entry : listed(tree.entry())) {
         descriptions += description(entry);
         QCOMPARE(description(tree.entry(entry.fileName())), descriptions.last());
-        QVERIFY(entry.isExists() && !entry.isArchiveMountPoint() && !entry.isPlace());
+        QVERIFY(entry.isExists() && !entry.isPlace());
+        QCOMPARE(entry.isArchiveMountPoint(), descriptions.last().contains(": archive"));
     }
     descriptions.sort();
-    QCOMPARE(
-        descriptions,
-        QStringList({".dir: dir dhx", ".zip: file h", "a.ZIP: archive ", "a.tar.new: archive ", "broken: file link l",
-                     "d.zip: dir dx", "endless: file link l", "file: file ", "gzip: file ", "l-dir: dir link dlx",
-                     "l-file: file link l", "l.zip: archive link l", "pipe.zip: file ", "program: file x"}));
+    QCOMPARE(descriptions,
+             QStringList({".dir: dir dhx", ".zip: file h", "a.ZIP: archive ", "a.rar: file ", "a.tar.xz: archive ",
+                          "broken: file link l", "d.zip: dir dx", "empty.zip: file link l", "endless: file link l",
+                          "file: file ", "gzip: file ", "l-dir: dir link dlx", "l-file: file link l",
+                          "l.zip: archive link l", "pipe.zip: file ", "program: file x"}));
     QCOMPARE(tree.entry("broken").symLinkTarget(), tree.path("nowhere"));
     QCOMPARE(VFS::ptr()->symLinkTargetEntry(tree.entry("l-dir")), tree.entry(".dir"));
     QCOMPARE(EntryList({tree.entry("broken"), tree.entry("l-file")}).brokenSymlinks(), EntryList(tree.entry("broken")));
@@ -202,9 +205,11 @@ void LocalVfsTest::filtersChildren()
     tree.link("l-dir", "dir");
     tree.link("l-file", "file");
     QCOMPARE(fileNames(listed(tree.entry(), VFS::ContainersOnly)), QStringList({"l-dir", "flat", "dir"}));
+    QCOMPARE(fileNames(listed(tree.entry("flat"), VFS::ContainersOnly)), QStringList("a.zip"));
+    QVERIFY(listed(tree.entry("flat"), VFS::ContainersOnly | VFS::ArchivesAsFiles).isEmpty());
     QCOMPARE(listed(tree.entry("flat"), VFS::ArchivesAsFiles).first().type(), int(Entry::File));
     QCOMPARE(listed(tree.entry(), VFS::RecursiveListing | VFS::NoArchiveDescent).size(), 5);
-    QVERIFY(VFS::ptr()->containsContainers(tree.entry("dir")));
+    QVERIFY(VFS::ptr()->containsContainers(tree.entry("dir")) && VFS::ptr()->containsContainers(tree.entry("flat")));
     QVERIFY(listed(tree.entry("file")).isEmpty());
     QAtomicInt cancel(1);
     QVERIFY(VFS::ptr()->childs(tree.entry(), VFS::PlainListing, &cancel).isEmpty());

@@ -59,9 +59,8 @@ std::unique_ptr<MemberReader> openArchive(int descriptor, qint64 size, const Arc
         return std::make_unique<SevenZipReader>(descriptor, size, limits.entries);
     const KCompressionDevice::CompressionType type = compressionOf(start);
     if (type == KCompressionDevice::None)
-        return std::make_unique<TarReader>(std::make_unique<FileSource>(descriptor, 0, size), TarReader::Optional);
-    return std::make_unique<TarReader>(std::make_unique<UnpackedFile>(descriptor, size, type, limits.unpackedBytes),
-                                       TarReader::Required);
+        return std::make_unique<TarReader>(std::make_unique<FileSource>(descriptor, 0, size));
+    return std::make_unique<TarReader>(std::make_unique<UnpackedFile>(descriptor, size, type, limits.unpackedBytes));
 }
 
 } // namespace VeskFM

@@ -11,6 +11,7 @@ namespace VeskFM
 
 namespace
 {
+constexpr qint64 longestPadding = 1024 * 1024;   // of an archive with nothing in it
 constexpr qint64 longestExtension = 1024 * 1024; // names are shorter, and nothing else in it is kept
 
 qint64 paddingOf(qint64 size)
@@ -43,9 +44,8 @@ ArchiveMember::Kind kindOf(char type, const QByteArray &name)
 }
 } // namespace
 
-TarReader::TarReader(std::unique_ptr<ByteSource> source, EndMark endMark)
+TarReader::TarReader(std::unique_ptr<ByteSource> source)
     : m_source(std::move(source))
-    , m_endMark(endMark)
 {
 }
 
@@ -93,12 +93,12 @@ bool TarReader::skipContent()
 bool TarReader::readHeader()
 {
     const qint64 count = m_source->readFully(m_header.block(), TarHeader::blockSize);
-    if (count == 0 && m_hadMember && m_endMark == Optional)
-        return false;
+    if (count == 0 && m_hadMember)
+        return false; // the framework's own class, among others, writes no mark at the end
     if (count != TarHeader::blockSize)
         return failOfSource();
-    if (m_header.isZero())
-        return false;
+    if (m_header.isZero()) // and hardly more: a large file of zeros is no archive
+        return m_hadMember || !m_source->skip(longestPadding) ? false : fail(ArchiveError::Damaged);
     if (!m_header.hasValidChecksum() || !m_header.size(&m_left))
         return fail(ArchiveError::Damaged);
     m_padding = paddingOf(m_left);

@@ -17,8 +17,7 @@ namespace VeskFM
 class TarReader : public MemberReader
 {
 public:
-    enum EndMark { Optional, Required }; ///< old archivers write none; a compressed archive without it was cut off
-    TarReader(std::unique_ptr<ByteSource> source, EndMark endMark);
+    explicit TarReader(std::unique_ptr<ByteSource> source);
 
     bool next(ArchiveMember *member) override;
     qint64 read(char *data, qint64 size) override;
@@ -41,7 +40,6 @@ private:
     bool fillMember(const Extension &extension, ArchiveMember *member);
 
     const std::unique_ptr<ByteSource> m_source;
-    const EndMark m_endMark;
     TarHeader m_header;
     QMap<QByteArray, QByteArray> m_globalRecords;
     qint64 m_left = 0;    // of the content
