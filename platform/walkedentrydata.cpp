@@ -118,6 +118,8 @@ Entry WalkedEntryData::assumed() const
     const bool isGone =
         lstat(PathCodec::encode(path()).constData(), &node) != 0 && errno != EACCES && errno != ENAMETOOLONG;
     LocalFacts facts = known();
+    if (facts.kind == Entry::Archive)
+        facts.kind = Entry::File; // none that can be entered
     facts.flags &= quint16(isGone ? ~LocalFacts::Exists : ~0);
     if (isLink())
         return Entry(new LocalLinkData(path(), fileName().size(), facts, QString()));

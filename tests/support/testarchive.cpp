@@ -13,8 +13,10 @@
 
 void packArchive(const QString &path, const QVector<TestMember> &members)
 {
-    static const QMap<QString, QString> types{{"tar", "application/x-tar"},  {"gz", "application/gzip"},
-                                              {"bz2", "application/x-bzip"}, {"xz", "application/x-xz"},
+    static const QMap<QString, QString> types{{"tar", "application/x-tar"},
+                                              {"gz", "application/gzip"},
+                                              {"bz2", "application/x-bzip"},
+                                              {"xz", "application/x-xz"},
                                               {"zst", "application/zstd"}};
     const QString suffix = path.mid(path.lastIndexOf('.') + 1);
     std::unique_ptr<KArchive> archive;
