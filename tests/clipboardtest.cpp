@@ -10,9 +10,8 @@
 #include <veskplatform/archivemountsmanagerproxy.h>
 
 #include <QClipboard>
-#include <QMap>
-#include <QMimeData>
-#include <QTest>
+
+#include <QtTest>
 
 #include <memory>
 

@@ -11,10 +11,7 @@
 #include <veskfm/propsplugin.h>
 #include <veskfm/userpropcaps.h>
 
-#include <QDir>
-#include <QFile>
-#include <QJsonObject>
-#include <QTest>
+#include <QtTest>
 
 #include <memory>
 

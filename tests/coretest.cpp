@@ -73,12 +73,6 @@ void makeReporter(const QString &path, const QString &result)
     script.setPermissions(script.permissions() | QFile::ExeOwner);
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
-}
-
 } // namespace
 
 class CoreTest : public QObject
@@ -119,7 +113,7 @@ void CoreTest::startsCommandLines()
     QVERIFY(Core::startProcess("/bin/sh", {tree.path("run it"), "a b"}, tree.path("work"), variables));
     QVERIFY(qgetenv("GIVEN").isNull());
     QVERIFY(qEnvironmentVariableIsSet("DISPLAY") && qEnvironmentVariableIsEmpty("DISPLAY")); // empty is not unset
-    QTRY_COMPARE(contentOf(result), "a b|" + tree.bytes("work") + "|:3|yes");
+    QTRY_COMPARE(contentOf(result).trimmed(), "a b|" + tree.bytes("work") + "|:3|yes");
     qunsetenv("DISPLAY");
 }
 
@@ -140,7 +134,7 @@ void CoreTest::startsOnTheRootDisplay()
     variables.insert("DISPLAY", ":7");
     QVERIFY(Core::startProcess("xterm", {"-e"}, tree.path(), variables));
     QCOMPARE(qgetenv("DISPLAY"), QByteArray(":0"));
-    QTRY_COMPARE(contentOf(result), "xterm -e|" + tree.bytes() + "|:5|unset");
+    QTRY_COMPARE(contentOf(result).trimmed(), "xterm -e|" + tree.bytes() + "|:5|unset");
     qunsetenv("DISPLAY");
     QFile::remove(tool);
     QVERIFY(!Core::startProcess("xterm")); // nor does a failure leave a trace in the environment

@@ -7,10 +7,8 @@
 #include <veskfm/settings.h>
 #include <veskplatform/vfs.h>
 
-#include <QDBusArgument>
-#include <QDBusConnection>
 #include <QDBusConnectionInterface>
-#include <QDBusMessage>
+
 #include <QtTest>
 
 #include <csignal>
@@ -46,19 +44,15 @@ void DesktopHostTest::opensWindows_data()
     QTest::addColumn<QString>("method");
     QTest::addColumn<QString>("path");  // below the tree
     QTest::addColumn<QString>("shown"); // empty: none
-    QTest::newRow("directory") << "callRegularWindow"
-                               << "directory" << m_tree.path("directory");
-    QTest::newRow("file") << "callRegularWindow"
-                          << "directory/file" << m_tree.path("directory");
-    QTest::newRow("no text") << "callRegularWindow"
-                             << "é\U0010ffff" << m_tree.path("é\U0010ffff");
-    QTest::newRow("not there") << "callRegularWindow"
-                               << "none"
-                               << "";
-    QTest::newRow("desktop") << "callDesktop"
-                             << "" << QDir::homePath(); // it has no directory for it
-    QTest::newRow("control dialog") << "callControlDialog"
-                                    << "" << QDir::homePath();
+    const auto row = [](const char *name, const char *method, const char *path, const QString &shown) {
+        QTest::newRow(name) << method << path << shown;
+    };
+    row("directory", "callRegularWindow", "directory", m_tree.path("directory"));
+    row("file", "callRegularWindow", "directory/file", m_tree.path("directory"));
+    row("no text", "callRegularWindow", "é\U0010ffff", m_tree.path("é\U0010ffff"));
+    row("not there", "callRegularWindow", "none", {});
+    row("desktop", "callDesktop", "", QDir::homePath()); // it has no directory for it
+    row("control dialog", "callControlDialog", "", QDir::homePath());
 }
 
 void DesktopHostTest::opensWindows()

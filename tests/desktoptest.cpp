@@ -21,7 +21,7 @@ private Q_SLOTS:
 void DesktopTest::callsUntilTheApplicationQuits()
 {
     CriticalMessages messages;
-    const Entry entry(new FakeEntryData("/dir", {}));
+    const Entry entry = fakeEntry("/dir");
     Desktop *const desktop = Desktop::ptr();
     QCOMPARE(desktop->callRegularWindow(entry, Desktop::MountPoint | Desktop::FileActions), 0);
     desktop->callDesktop();

@@ -9,8 +9,6 @@
 #include <veskplatform/standardpaths.h>
 
 #include <QIcon>
-#include <QImage>
-#include <QSemaphore>
 #include <QtConcurrentRun>
 #include <QtTest>
 

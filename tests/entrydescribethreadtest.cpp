@@ -9,11 +9,7 @@
 #include <veskfm/corepluginsmanager.h>
 #include <veskfm/entrydescribethread.h>
 
-#include <QSemaphore>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
-#include <QTranslator>
+#include <QtTest>
 
 #include <stdexcept>
 
@@ -68,18 +64,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("relaxationMs");
         const QStringList several{"dir", "file", "file", "file", "file"};
-        QTest::newRow("a file") << QStringList("file") << ""
-                                << "file (2.00 KB)" << 0;
-        QTest::newRow("a directory") << QStringList("dir") << ""
-                                     << "dir" << 1000;
-        QTest::newRow("a directory among files") << several << "en"
-                                                 << "5 entries" << 1000;
-        QTest::newRow("Russian, many") << several << "ru"
-                                       << "5 записей" << 1000;
-        QTest::newRow("Russian, few") << QStringList({"file", "file"}) << "ru"
-                                      << "2 записи" << 0;
-        QTest::newRow("nothing, in no language") << QStringList() << ""
-                                                 << "0 entry(s)" << 0;
+        const auto row = [](const char *name, const QStringList &names, const char *language, const char *text,
+                            int relaxationMs) { QTest::newRow(name) << names << language << text << relaxationMs; };
+        row("a file", {"file"}, "", "file (2.00 KB)", 0);
+        row("a directory", {"dir"}, "", "dir", 1000);
+        row("a directory among files", several, "en", "5 entries", 1000);
+        row("Russian, many", several, "ru", "5 записей", 1000);
+        row("Russian, few", {"file", "file"}, "ru", "2 записи", 0);
+        row("nothing, in no language", {}, "", "0 entry(s)", 0);
     }
 
     void saysAtOnceWhatIsKnown()

@@ -14,10 +14,10 @@
 #include <sys/xattr.h>
 
 #include <algorithm>
-#include <functional>
 
 using namespace VeskFM;
 using FopsClient::Outcome;
+using FopsClient::run;
 
 namespace
 {
@@ -54,9 +54,35 @@ bool hasParts(const TestTree &tree)
     return !QDir(tree.path()).entryList({QStringLiteral(".vesk-fm-part-*")}, QDir::AllEntries | QDir::Hidden).isEmpty();
 }
 
-} // namespace
+/// What is or could be at @p path below the tree; other paths are taken as they are.
+Entry at(const TestTree &tree, const QString &path)
+{
+    const bool isBelow = !path.startsWith(QLatin1Char('/')) && !path.startsWith(QLatin1Char('-'));
+    return fakeEntry(isBelow ? tree.path(path) : path);
+}
 
-Q_DECLARE_METATYPE(std::function<FopsClient::Outcome(TestTree &)>)
+Outcome act(const QString &operation, const Entry &first, const Entry &second)
+{
+    if (operation == "copy")
+        return run(&FOps::copy, EntryList(first), second);
+    if (operation == "move")
+        return run(&FOps::move, EntryList(first), second);
+    if (operation == "rename")
+        return run(&FOps::rename, first, second);
+    if (operation == "restore")
+        return run(&FOps::restore, EntryList(first));
+    if (operation == "trash")
+        return run(&FOps::trash, EntryList(first), true);
+    if (operation == "makeDir")
+        return run(&FOps::makeDir, first);
+    if (operation == "makeShortcuts")
+        return run(&FOps::makeShortcuts, EntryList(first), second);
+    if (operation == "makeFromTemplate")
+        return run(&FOps::makeFromTemplate, first, second.path());
+    return run(&FOps::remove, operation == "remove none" ? EntryList() : EntryList(first), true);
+}
+
+} // namespace
 
 /// Against the real service, which the bus starts.
 class FopsHostTest : public QObject
@@ -65,10 +91,8 @@ class FopsHostTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void copiesWholeTrees_data() { addPlaces(); }
-    void copiesWholeTrees();
-    void movesWholeTrees_data() { addPlaces(); }
-    void movesWholeTrees();
+    void takesWholeTreesAlong_data();
+    void takesWholeTreesAlong();
     void keepsWhatIsThere_data();
     void keepsWhatIsThere();
     void refuses_data();
@@ -79,25 +103,27 @@ private Q_SLOTS:
     void leavesNothingWhenTheDiskIsFull();
     void actsOnExactBytes();
     void answersWhileItWorks();
-
-private:
-    static void addPlaces();
 };
 
 void FopsHostTest::initTestCase()
 {
     QVERIFY2(FOps::ptr()->isAvailable(), "the bus does not start the service");
+    QVERIFY(QDir().mkpath(StandardPaths::trashDirPath()));
 }
 
-void FopsHostTest::addPlaces()
+void FopsHostTest::takesWholeTreesAlong_data()
 {
+    QTest::addColumn<bool>("moves");
     QTest::addColumn<bool>("elsewhere");
-    QTest::newRow("same file system") << false;
-    QTest::newRow("another file system") << true;
+    QTest::newRow("copy on the same file system") << false << false;
+    QTest::newRow("copy to another file system") << false << true;
+    QTest::newRow("move on the same file system") << true << false;
+    QTest::newRow("move to another file system") << true << true;
 }
 
-void FopsHostTest::copiesWholeTrees()
+void FopsHostTest::takesWholeTreesAlong()
 {
+    QFETCH(bool, moves);
     QFETCH(bool, elsewhere);
     TestTree tree;
     addSamples(&tree);
@@ -105,29 +131,14 @@ void FopsHostTest::copiesWholeTrees()
     if (!target)
         QSKIP("There is no other file system here");
     const QList<QByteArray> original = treeSnapshot(tree.bytes("all"));
-    const Outcome outcome = FopsClient::run(&FOps::copy, EntryList(tree.entry("all")), target->entry());
+    const char *const made = moves ? "all (2)" : "all";
+    if (moves)
+        target->add("all", "taken");
+    const Outcome outcome = run(moves ? &FOps::move : &FOps::copy, EntryList(tree.entry("all")), target->entry());
     QCOMPARE(outcome.code, int(Success));
-    QCOMPARE(outcome.entries, EntryList(target->entry("all")));
-    QCOMPARE(treeSnapshot(target->bytes("all")), original);
-    QCOMPARE(treeSnapshot(tree.bytes("all")), original);
-    QVERIFY(!hasParts(*target));
-}
-
-void FopsHostTest::movesWholeTrees()
-{
-    QFETCH(bool, elsewhere);
-    TestTree tree;
-    addSamples(&tree);
-    const std::unique_ptr<TestTree> target = elsewhere ? FopsClient::treeElsewhere() : std::make_unique<TestTree>();
-    if (!target)
-        QSKIP("There is no other file system here");
-    const QList<QByteArray> original = treeSnapshot(tree.bytes("all"));
-    target->add("all", "taken");
-    const Outcome outcome = FopsClient::run(&FOps::move, EntryList(tree.entry("all")), target->entry());
-    QCOMPARE(outcome.code, int(Success));
-    QCOMPARE(outcome.names(), QStringList("all (2)"));
-    QCOMPARE(treeSnapshot(target->bytes("all (2)")), original);
-    QCOMPARE(treeSnapshot(tree.bytes("all")), {});
+    QCOMPARE(outcome.entries, EntryList(target->entry(made)));
+    QCOMPARE(treeSnapshot(target->bytes(made)), original);
+    QCOMPARE(treeSnapshot(tree.bytes("all")), moves ? QList<QByteArray>() : original);
     QVERIFY(!hasParts(*target) && !hasParts(tree));
 }
 
@@ -166,9 +177,7 @@ void FopsHostTest::keepsWhatIsThere()
     for (const QString &source : qAsConst(sources))
         selection.append(tree.entry(source));
     const QList<QByteArray> before = treeSnapshot(tree.bytes());
-    const Entry present = tree.entry(destination);
-    const Outcome outcome =
-        FopsClient::run(&FOps::copy, selection, present.isNull() ? plannedEntry(tree.path(destination)) : present);
+    const Outcome outcome = run(&FOps::copy, selection, at(tree, destination));
     QCOMPARE(outcome.code, int(Success));
     QTEST(outcome.names(), "made");
     const QList<QByteArray> after = treeSnapshot(tree.bytes());
@@ -180,94 +189,45 @@ void FopsHostTest::keepsWhatIsThere()
 
 void FopsHostTest::refuses_data()
 {
-    QTest::addColumn<std::function<Outcome(TestTree &)>>("act");
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<QString>("first"); // below the tree, or absolute
+    QTest::addColumn<QString>("second");
     QTest::addColumn<int>("code");
 
-    using Act = std::function<Outcome(TestTree &)>;
-    const auto row = [](const char *name, const Act &act, Code code) { QTest::newRow(name) << act << int(code); };
-    const auto planned = [](const char *path) { return plannedEntry(QString::fromUtf8(path)); };
-    row(
-        "copying what is gone",
-        [=](TestTree &t) { return FopsClient::run(&FOps::copy, EntryList(planned("/gone")), t.entry("dir")); },
-        NotFound);
-    row(
-        "copying to where nothing is",
-        [=](TestTree &t) {
-            return FopsClient::run(&FOps::copy, EntryList(t.entry("a")), plannedEntry(t.path("no/b")));
-        },
-        NotFound);
-    row(
-        "a directory onto a file",
-        [](TestTree &t) { return FopsClient::run(&FOps::copy, EntryList(t.entry("dir")), t.entry("a")); }, Exists);
-    row(
-        "copying into itself",
-        [](TestTree &t) { return FopsClient::run(&FOps::copy, EntryList(t.entry("dir")), t.entry("dir/sub")); },
-        IntoItself);
-    row(
-        "moving into itself",
-        [](TestTree &t) { return FopsClient::run(&FOps::move, EntryList(t.entry("dir")), t.entry("dir")); },
-        IntoItself);
-    row(
-        "renaming into itself",
-        [](TestTree &t) { return FopsClient::run(&FOps::rename, t.entry("dir"), plannedEntry(t.path("dir/sub/x"))); },
-        IntoItself);
-    row(
-        "renaming to a taken name",
-        [](TestTree &t) { return FopsClient::run(&FOps::rename, t.entry("a"), t.entry("b")); }, Exists);
-    row(
-        "renaming to nowhere",
-        [](TestTree &t) { return FopsClient::run(&FOps::rename, t.entry("a"), plannedEntry(t.path("no/a"))); },
-        NotFound);
-    row(
-        "removing the root", [=](TestTree &) { return FopsClient::run(&FOps::remove, EntryList(planned("//")), true); },
-        NotSupported);
-    row(
-        "removing a parent by two dots",
-        [](TestTree &t) { return FopsClient::run(&FOps::remove, EntryList(plannedEntry(t.path("dir/sub/.."))), true); },
-        NotSupported);
-    row(
-        "what looks like an option",
-        [=](TestTree &) { return FopsClient::run(&FOps::remove, EntryList(planned("-rf")), true); }, NotSupported);
-    row(
-        "nothing at all", [](TestTree &) { return FopsClient::run(&FOps::remove, EntryList(), true); }, NotFound);
-    row(
-        "restoring what was never trashed",
-        [](TestTree &t) { return FopsClient::run(&FOps::restore, EntryList(t.entry("a"))); }, NotFound);
-    row(
-        "trashing the trash",
-        [=](TestTree &t) {
-            FopsClient::run(&FOps::trash, EntryList(t.add("x")), true);
-            return FopsClient::run(&FOps::trash, EntryList(VFS::ptr()->entry(StandardPaths::trashDirPath())), true);
-        },
-        NotSupported);
-    row(
-        "making where no directory is",
-        [](TestTree &t) { return FopsClient::run(&FOps::makeDir, plannedEntry(t.path("no/dir"))); }, NotFound);
-    row(
-        "a link in no directory",
-        [=](TestTree &t) { return FopsClient::run(&FOps::makeShortcuts, EntryList(t.entry("a")), planned("x")); },
-        NotSupported);
-    row(
-        "a template that is a pipe",
-        [](TestTree &t) {
-            mkfifo(t.bytes("pipe").constData(), 0600);
-            const Outcome outcome = FopsClient::run(&FOps::makeFromTemplate, t.entry("dir"), t.path("pipe"));
-            t.remove("pipe");
-            return outcome;
-        },
-        NotSupported);
+    const auto row = [](const char *name, const char *operation, const char *first, const char *second, Code code) {
+        QTest::newRow(name) << operation << first << second << int(code);
+    };
+    row("copying what is gone", "copy", "/gone", "dir", NotFound);
+    row("copying to where nothing is", "copy", "a", "no/b", NotFound);
+    row("a directory onto a file", "copy", "dir", "a", Exists);
+    row("copying into itself", "copy", "dir", "dir/sub", IntoItself);
+    row("moving into itself", "move", "dir", "dir", IntoItself);
+    row("renaming into itself", "rename", "dir", "dir/sub/x", IntoItself);
+    row("renaming to a taken name", "rename", "a", "b", Exists);
+    row("renaming to nowhere", "rename", "a", "no/a", NotFound);
+    row("removing the root", "remove", "//", "", NotSupported);
+    row("removing a parent by two dots", "remove", "dir/sub/..", "", NotSupported);
+    row("nothing at all", "remove none", "", "", NotFound);
+    row("what looks like an option", "remove", "-rf", "", NotSupported);
+    row("restoring what was never trashed", "restore", "a", "", NotFound);
+    row("trashing the trash", "trash", qUtf8Printable(StandardPaths::trashDirPath()), "", NotSupported);
+    row("making where no directory is", "makeDir", "no/dir", "", NotFound);
+    row("a link in no directory", "makeShortcuts", "a", "-x", NotSupported);
+    row("a template that is a pipe", "makeFromTemplate", "dir", "pipe", NotSupported);
 }
 
 void FopsHostTest::refuses()
 {
-    QFETCH(std::function<Outcome(TestTree &)>, act);
+    QFETCH(QString, operation);
+    QFETCH(QString, first);
+    QFETCH(QString, second);
     TestTree tree({"a", "b", "dir/sub/c"});
-    const QList<QByteArray> before = treeSnapshot(tree.bytes("dir")) + treeSnapshot(tree.bytes("a"));
-    const Outcome outcome = act(tree);
+    QVERIFY(mkfifo(tree.bytes("pipe").constData(), 0600) == 0);
+    const QList<QByteArray> before = treeSnapshot(tree.bytes());
+    const Outcome outcome = act(operation, at(tree, first), at(tree, second));
     QTEST(outcome.code, "code");
     QCOMPARE(outcome.entries, EntryList());
-    QCOMPARE(treeSnapshot(tree.bytes("dir")) + treeSnapshot(tree.bytes("a")), before);
-    QVERIFY(!hasParts(tree));
+    QCOMPARE(treeSnapshot(tree.bytes()), before); // no part files either
 }
 
 void FopsHostTest::trashesAndRestores()
@@ -275,25 +235,25 @@ void FopsHostTest::trashesAndRestores()
     TestTree tree({"deep/down/a.txt", "deep/down/dir/x", "kept"});
     const QList<QByteArray> original = treeSnapshot(tree.bytes("deep/down/dir"));
     const Outcome trashed =
-        FopsClient::run(&FOps::trash, EntryList{tree.entry("deep/down/a.txt"), tree.entry("deep/down/dir")}, true);
+        run(&FOps::trash, EntryList{tree.entry("deep/down/a.txt"), tree.entry("deep/down/dir")}, true);
     QCOMPARE(trashed.code, int(Success));
     QCOMPARE(trashed.entries.size(), 2);
     QVERIFY(FOps::isTrashEntries(trashed.entries));
     QVERIFY(tree.entry("deep/down/a.txt").isNull());
 
     tree.add("deep/down/a.txt", "came later");
-    const Outcome restored = FopsClient::run(&FOps::restore, trashed.entries);
+    const Outcome restored = run(&FOps::restore, trashed.entries);
     QCOMPARE(restored.code, int(Success));
     QCOMPARE(restored.names(), QStringList({"a (2).txt", "dir"}));
     QCOMPARE(treeSnapshot(tree.bytes("deep/down/dir")), original);
 
-    const Outcome again = FopsClient::run(&FOps::trash, EntryList(tree.entry("deep/down/dir")), true);
+    const Outcome again = run(&FOps::trash, EntryList(tree.entry("deep/down/dir")), true);
     tree.remove("deep");
-    QCOMPARE(FopsClient::run(&FOps::restore, again.entries).code, int(Success)); // its parents are made
+    QCOMPARE(run(&FOps::restore, again.entries).code, int(Success)); // its parents are made
     QCOMPARE(treeSnapshot(tree.bytes("deep/down/dir")), original);
 
-    FopsClient::run(&FOps::trash, EntryList(tree.entry("deep")), true);
-    QCOMPARE(FopsClient::run(&FOps::cleanTrash).code, int(Success));
+    run(&FOps::trash, EntryList(tree.entry("deep")), true);
+    QCOMPARE(run(&FOps::cleanTrash).code, int(Success));
     QVERIFY(FOps::isEmptyTrash());
     QVERIFY(QDir(StandardPaths::trashDirPath() + "/../info").isEmpty());
     QVERIFY(!tree.entry("kept").isNull());
@@ -303,12 +263,12 @@ void FopsHostTest::removesLinksNotTheirTargets()
 {
     TestTree tree({"outside/kept", "dir/sub/file", "third"});
     tree.link("dir/link", "../outside");
-    const EntryList selection{tree.entry("dir"), plannedEntry(tree.path("gone")), tree.entry("third")};
-    QCOMPARE(FopsClient::run(&FOps::remove, selection, false).code, int(NotFound));
+    const EntryList selection{tree.entry("dir"), fakeEntry(tree.path("gone")), tree.entry("third")};
+    QCOMPARE(run(&FOps::remove, selection, false).code, int(NotFound));
     QVERIFY(tree.entry("dir").isNull());
     QVERIFY(!tree.entry("outside/kept").isNull());
     QVERIFY(!tree.entry("third").isNull()); // it stopped before
-    QCOMPARE(FopsClient::run(&FOps::remove, selection, true).code, int(NotFound));
+    QCOMPARE(run(&FOps::remove, selection, true).code, int(NotFound));
     QVERIFY(tree.entry("third").isNull());
 }
 
@@ -316,22 +276,22 @@ void FopsHostTest::makesThings()
 {
     TestTree tree({"a.txt", "templates/script.sh", "links/a.txt"});
     chmod(tree.bytes("templates/script.sh").constData(), 0500);
-    QCOMPARE(FopsClient::run(&FOps::makeDir, plannedEntry(tree.path("new"))).names(), QStringList("new"));
-    QCOMPARE(FopsClient::run(&FOps::makeFile, plannedEntry(tree.path("new"))).names(), QStringList("new (2)"));
+    QCOMPARE(run(&FOps::makeDir, fakeEntry(tree.path("new"))).names(), QStringList("new"));
+    QCOMPARE(run(&FOps::makeFile, fakeEntry(tree.path("new"))).names(), QStringList("new (2)"));
     QCOMPARE(tree.entry("new (2)").fileSize(), 0LL);
-    QCOMPARE(FopsClient::run(&FOps::makeShortcut, tree.entry("a.txt")).names(), QStringList("a - shortcut.txt"));
+    QCOMPARE(run(&FOps::makeShortcut, tree.entry("a.txt")).names(), QStringList("a - shortcut.txt"));
     QCOMPARE(tree.entry("a - shortcut.txt").symLinkTarget(), tree.path("a.txt"));
-    QCOMPARE(FopsClient::run(&FOps::makeShortcuts, EntryList(tree.entry("a.txt")), tree.entry("links")).names(),
+    QCOMPARE(run(&FOps::makeShortcuts, EntryList(tree.entry("a.txt")), tree.entry("links")).names(),
              QStringList("a (2).txt"));
 
     const QString script = tree.path("templates/script.sh");
-    QCOMPARE(FopsClient::run(&FOps::makeFromTemplate, tree.entry(), script).names(), QStringList("script.sh"));
-    const Outcome named = FopsClient::run(&FOps::makeFromTemplate, plannedEntry(tree.path("run.sh")), script);
+    QCOMPARE(run(&FOps::makeFromTemplate, tree.entry(), script).names(), QStringList("script.sh"));
+    const Outcome named = run(&FOps::makeFromTemplate, fakeEntry(tree.path("run.sh")), script);
     QCOMPARE(named.names(), QStringList("run.sh"));
     QVERIFY(QFileInfo(tree.path("run.sh")).isWritable() && QFileInfo(tree.path("run.sh")).isExecutable());
 
     const QString title = QStringLiteral("A/b\nName=c \\ d");
-    const Outcome titled = FopsClient::run(&FOps::makeTitledShortcut, "https://example.org/?a=b", title, tree.entry());
+    const Outcome titled = run(&FOps::makeTitledShortcut, "https://example.org/?a=b", title, tree.entry());
     QCOMPARE(titled.code, int(Success));
     const VeskUIDesktopEntry shortcut(titled.entries.value(0).localPath());
     QCOMPARE(shortcut.getBestAvailableName(), title);
@@ -348,7 +308,7 @@ void FopsHostTest::leavesNothingWhenTheDiskIsFull()
     QVERIFY(prlimit(FopsClient::process(), RLIMIT_FSIZE, nullptr, &unlimited) == 0);
     const struct rlimit limit = {1024 * 1024, unlimited.rlim_max}; // as a disk that is full in the middle of a file
     QVERIFY(prlimit(FopsClient::process(), RLIMIT_FSIZE, &limit, nullptr) == 0);
-    const Outcome outcome = FopsClient::run(&FOps::copy, EntryList(tree.entry("dir")), tree.entry("target"));
+    const Outcome outcome = run(&FOps::copy, EntryList(tree.entry("dir")), tree.entry("target"));
     QVERIFY(prlimit(FopsClient::process(), RLIMIT_FSIZE, &unlimited, nullptr) == 0);
     QCOMPARE(outcome.code, int(NoSpace));
     QVERIFY(QDir(tree.path("target")).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
@@ -365,17 +325,17 @@ void FopsHostTest::actsOnExactBytes()
                                   [](const Entry &entry) { return entry.localPath().isEmpty(); });
     QVERIFY(odd != children.cend());
     const QList<QByteArray> original = treeSnapshot(tree.bytes("bytes/n\xff.txt"));
-    QCOMPARE(FopsClient::run(&FOps::copy, EntryList(*odd), tree.entry("target")).code, int(Success));
+    QCOMPARE(run(&FOps::copy, EntryList(*odd), tree.entry("target")).code, int(Success));
     QCOMPARE(treeSnapshot(tree.bytes("target/n\xff.txt")), original);
-    QCOMPARE(FopsClient::run(&FOps::copy, EntryList(*odd), tree.entry("bytes")).code, int(Success));
+    QCOMPARE(run(&FOps::copy, EntryList(*odd), tree.entry("bytes")).code, int(Success));
     QCOMPARE(treeSnapshot(tree.bytes("bytes/n\xff - copy.txt")), original);
 
-    const Outcome trashed = FopsClient::run(&FOps::trash, EntryList(*odd), true);
+    const Outcome trashed = run(&FOps::trash, EntryList(*odd), true);
     QCOMPARE(trashed.code, int(Success));
     QVERIFY(treeSnapshot(tree.bytes("bytes/n\xff.txt")).isEmpty());
-    QCOMPARE(FopsClient::run(&FOps::restore, trashed.entries).code, int(Success));
+    QCOMPARE(run(&FOps::restore, trashed.entries).code, int(Success));
     QCOMPARE(treeSnapshot(tree.bytes("bytes/n\xff.txt")), original);
-    QCOMPARE(FopsClient::run(&FOps::remove, EntryList(*odd), true).code, int(Success));
+    QCOMPARE(run(&FOps::remove, EntryList(*odd), true).code, int(Success));
     QVERIFY(!tree.entry(QString::fromUtf8("bytes/n\xc3\xbf.txt")).isNull());
 }
 

@@ -131,8 +131,8 @@ void FopsKillTest::losesNothingWhenKilled()
         QVERIFY2(made.isEmpty() || made == whole, "half a target");
         QVERIFY2(source == whole || (moves && source.isEmpty() && made == whole), "half a source");
 
-        QCOMPARE(FopsClient::run(&FOps::makeDir, plannedEntry(target.path("next"))).code, 0);
-        QCOMPARE(FopsClient::run(&FOps::makeDir, plannedEntry(tree.path("next"))).code, 0);
+        QCOMPARE(FopsClient::run(&FOps::makeDir, fakeEntry(target.path("next"))).code, 0);
+        QCOMPARE(FopsClient::run(&FOps::makeDir, fakeEntry(tree.path("next"))).code, 0);
         QVERIFY2(parts(target).isEmpty() && parts(tree).isEmpty(), "leavings of the killed service");
         target.remove("next");
         tree.remove("next");
@@ -173,7 +173,7 @@ void FopsKillTest::leavesPartsOfOthersAlone()
     const QByteArray started = own.readAll().split(' ').value(21);
     const QByteArray live = ".vesk-fm-part-" + QByteArray::number(getpid()) + '-' + started + "-1";
     tree.add(live);
-    QCOMPARE(FopsClient::run(&FOps::makeFile, plannedEntry(tree.path("new"))).code, 0);
+    QCOMPARE(FopsClient::run(&FOps::makeFile, fakeEntry(tree.path("new"))).code, 0);
     QStringList expected{".vesk-fm-part-notes", ".vesk-fm-part-1-2", QString::fromLatin1(live)};
     expected.sort();
     QCOMPARE(parts(tree), expected);

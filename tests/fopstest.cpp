@@ -9,22 +9,15 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDateTime>
-#include <QSignalSpy>
-#include <QTest>
+
+#include <QtTest>
 
 #include <csignal>
-#include <functional>
 
 using namespace VeskFM;
 
 namespace
 {
-
-Entry entry(const QString &path)
-{
-    return Entry(new FakeEntryData(path, {}));
-}
 
 QString service()
 {
@@ -66,15 +59,13 @@ private Q_SLOTS:
 
 void FOpsTest::cleanup()
 {
-    signalService(service(), SIGKILL);
-    setFakeBehaviour("");
-    clearFakeCalls();
+    resetFake(service());
 }
 
 void FOpsTest::sendsEveryOperationAndGivesItsRecordBack()
 {
-    const Entry a = entry("/a");
-    const Entry b = entry("/b");
+    const Entry a = fakeEntry("/a");
+    const Entry b = fakeEntry("/b");
     const EntryList both{a, b};
     struct Row
     {
@@ -151,8 +142,8 @@ void FOpsTest::givesEqualIdentifiersOneRecord()
     FOpId second;
     do { // until both fall into one second
         finished.clear();
-        first = fops->makeFromTemplate(entry("/a"), "first");
-        second = fops->makeFromTemplate(entry("/b"), "second");
+        first = fops->makeFromTemplate(fakeEntry("/a"), "first");
+        second = fops->makeFromTemplate(fakeEntry("/b"), "second");
         QTRY_COMPARE(finished.size(), 2);
     } while (first != second);
     QCOMPARE(finished.at(0).at(4).toMap().value("templatePath"), QVariant("second"));
@@ -167,7 +158,7 @@ void FOpsTest::believesOnlyTheService()
     QVERIFY(QDBusConnection::sessionBus().interface()->startService(service()).isValid());
     QDBusConnection forger = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "forger");
     const QString interface = busName(".FileManager.FileOperation");
-    const QVariantList forged{"forged", 0, QVariant::fromValue(EntryList{entry("/forged")})};
+    const QVariantList forged{"forged", 0, QVariant::fromValue(EntryList{fakeEntry("/forged")})};
     QDBusMessage everybody = QDBusMessage::createSignal("/", interface, "operationFinished");
     QDBusMessage us = QDBusMessage::createTargetedSignal(QDBusConnection::sessionBus().baseService(), "/", interface,
                                                          "operationFinished");
@@ -194,7 +185,7 @@ void FOpsTest::survivesAFloodOfUnknownResults()
     FOps *const fops = FOps::ptr();
     QSignalSpy finished(fops, &FOps::operationFinished);
     setFakeBehaviour("flood");
-    const FOpId id = fops->makeDir(entry("/a"));              // starts the service
+    const FOpId id = fops->makeDir(fakeEntry("/a"));          // starts the service
     QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 10001, 30000); // those of a wrong structure do not count
     QCOMPARE(finished.at(9999).at(0).value<FOpId>().stamp(), QStringLiteral("unknown9999"));
     QCOMPARE(finished.at(9999).at(3).value<FOps::OperationType>(), FOps::Unknown);
@@ -207,10 +198,10 @@ void FOpsTest::keepsTheRecordsOfAServiceThatDied()
     FOps *const fops = FOps::ptr();
     QSignalSpy finished(fops, &FOps::operationFinished);
     setFakeBehaviour("die");
-    const FOpId lost = fops->makeFile(entry("/a"));
+    const FOpId lost = fops->makeFile(fakeEntry("/a"));
     QTRY_VERIFY(fakeCalls().size() == 1 && !isOnBus(service()) && !fops->isAvailable());
     setFakeBehaviour("");
-    const FOpId id = fops->makeDir(entry("/b"));
+    const FOpId id = fops->makeDir(fakeEntry("/b"));
     QTRY_COMPARE(finished.size(), 1);
     QVERIFY(finished.at(0).at(0).value<FOpId>() == id);
     QTRY_VERIFY(fops->isAvailable());
@@ -222,9 +213,9 @@ void FOpsTest::doesNothingAfterTheApplicationQuit()
 {
     FOps *const fops = FOps::ptr();
     QSignalSpy finished(fops, &FOps::operationFinished);
-    const FOpId pending = fops->makeDir(entry("/a"));
+    const FOpId pending = fops->makeDir(fakeEntry("/a"));
     announceQuit();
-    QVERIFY(!fops->isAvailable() && !fops->makeFile(entry("/b")).isNull());
+    QVERIFY(!fops->isAvailable() && !fops->makeFile(fakeEntry("/b")).isNull());
     QCOMPARE(fops->operationProgress(pending), 0);
     QTRY_VERIFY(fakeCalls().join(' ').contains(pending.stamp()));
     signalService(service(), SIGKILL); // so its signal has come

@@ -27,9 +27,7 @@ private Q_SLOTS:
 
 void MimeAppsTest::cleanup()
 {
-    signalService(busName(".vesk-fm.open"), SIGKILL);
-    setFakeBehaviour("");
-    clearFakeCalls();
+    resetFake(busName(".vesk-fm.open"));
     MimeApps::freePtr();
 }
 

@@ -34,11 +34,6 @@ struct RecordingValidator : public EntryMatchValidator
     QStringList *const log;
 };
 
-Entry fake(const QString &name, std::initializer_list<EntryTrait> traits)
-{
-    return Entry(new FakeEntryData(QStringLiteral("/") + name, traits));
-}
-
 } // namespace
 
 class ModelFilterTest : public QObject
@@ -80,11 +75,11 @@ private Q_SLOTS:
         filter.setNameFilters(patterns);
         filter.setNameFiltersForFilesOnly(filesOnly);
         const QList<QPair<char, Entry>> candidates = {
-            {'f', fake("a.TXT", {EntryTrait::File})},
-            {'x', fake("run.sh", {EntryTrait::File, EntryTrait::Executable})},
-            {'h', fake(".a.sh", {EntryTrait::File, EntryTrait::Hidden, EntryTrait::Executable})},
-            {'d', fake("docs", {EntryTrait::Dir})},
-            {'H', fake(".docs", {EntryTrait::Dir, EntryTrait::Hidden})}};
+            {'f', fakeEntry("/a.TXT", {EntryTrait::File})},
+            {'x', fakeEntry("/run.sh", {EntryTrait::File, EntryTrait::Executable})},
+            {'h', fakeEntry("/.a.sh", {EntryTrait::File, EntryTrait::Hidden, EntryTrait::Executable})},
+            {'d', fakeEntry("/docs", {EntryTrait::Dir})},
+            {'H', fakeEntry("/.docs", {EntryTrait::Dir, EntryTrait::Hidden})}};
         QString accepted;
         for (const auto &candidate : candidates) {
             if (filter.isAllowedEntry(candidate.second))
@@ -134,7 +129,7 @@ private Q_SLOTS:
 
     void asksValidatorsInOrderAndOwnsThem()
     {
-        const Entry file = fake("f", {EntryTrait::File});
+        const Entry file = fakeEntry("/f", {EntryTrait::File});
         QStringList log;
         {
             ModelFilter filter;

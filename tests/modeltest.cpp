@@ -1,18 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "modelrows.h"
 #include "testtree.h"
 #include "treevfs.h"
 
 #include <veskfm/model.h>
 #include <veskfm/modelitem.h>
 
-#include <QAbstractItemModelTester>
-#include <QIdentityProxyModel>
 #include <QMimeData>
-#include <QRandomGenerator>
-#include <QSignalSpy>
-#include <QTest>
+
+#include <QtTest>
 
 #include <memory>
 
@@ -75,16 +73,9 @@ struct Shown
             list.append(file(name));
         return list;
     }
-    /// Lets the watcher answer, and what it says arrive.
     void list(const EntryList &children, const Entry &entry, VFS::EntryChildFilters filters = VFS::PlainListing)
     {
-        Q_EMIT vfs.watcher.dirListed(entry, filters, children);
-        QCoreApplication::processEvents();
-    }
-    void tell(void (EntryWatcher::*event)(const Entry &), const Entry &entry)
-    {
-        Q_EMIT(vfs.watcher.*event)(entry);
-        QCoreApplication::processEvents();
+        vfs.answer(entry, filters, children);
     }
     void show(const QStringList &names)
     {
@@ -183,29 +174,29 @@ private Q_SLOTS:
     {
         Shown shown;
         shown.show({"b", "d"});
-        shown.tell(&EntryWatcher::entryCreated, shown.file("c"));
-        shown.tell(&EntryWatcher::entryCreated, shown.file(".hidden"));
-        shown.tell(&EntryWatcher::entryCreated, shown.vfs.add("/home/elsewhere"));
+        shown.vfs.tell(&EntryWatcher::entryCreated, shown.file("c"));
+        shown.vfs.tell(&EntryWatcher::entryCreated, shown.file(".hidden"));
+        shown.vfs.tell(&EntryWatcher::entryCreated, shown.vfs.add("/home/elsewhere"));
         QCOMPARE(shown.take(), QStringList({"insert 1-1"}));
-        shown.tell(&EntryWatcher::entryCreated, shown.file("c")); // it is there already
-        shown.tell(&EntryWatcher::entryChanged, shown.file("b"));
-        shown.tell(&EntryWatcher::entryAttributesChanged, shown.file("b"));
-        shown.tell(&EntryWatcher::entryChanged, shown.file("unknown"));
+        shown.vfs.tell(&EntryWatcher::entryCreated, shown.file("c")); // it is there already
+        shown.vfs.tell(&EntryWatcher::entryChanged, shown.file("b"));
+        shown.vfs.tell(&EntryWatcher::entryAttributesChanged, shown.file("b"));
+        shown.vfs.tell(&EntryWatcher::entryChanged, shown.file("unknown"));
         QCOMPARE(shown.take(), QStringList({"layout", "layout", "layout"}));
-        shown.tell(&EntryWatcher::entryDeleted, shown.file("b"));
-        shown.tell(&EntryWatcher::entryDeleted, shown.dir); // the root stays
+        shown.vfs.tell(&EntryWatcher::entryDeleted, shown.file("b"));
+        shown.vfs.tell(&EntryWatcher::entryDeleted, shown.dir); // the root stays
         QCOMPARE(shown.take(), QStringList({"remove 0-0"}));
         QCOMPARE(displayNames(*shown.model), QStringList({"c", "d"}));
 
-        shown.tell(&EntryWatcher::entryReset, shown.dir);
+        shown.vfs.tell(&EntryWatcher::entryReset, shown.dir);
         QCOMPARE(shown.take(), QStringList({"remove 0-1", "loading"}));
         const Entry sub = shown.vfs.add("/home/dir/sub", Entry::Dir);
         for (const Entry &early : {shown.file("x"), sub, sub}) // not listed yet: only a directory sets a flag, once
-            shown.tell(&EntryWatcher::entryCreated, early);
+            shown.vfs.tell(&EntryWatcher::entryCreated, early);
         QCOMPARE(shown.take(), QStringList({"changed"}));
         shown.list(shown.files({"x"}), shown.dir);
         shown.vfs.nodes.remove("/home/dir");
-        shown.tell(&EntryWatcher::entryReset, shown.dir); // vanished: left as it is
+        shown.vfs.tell(&EntryWatcher::entryReset, shown.dir); // vanished: left as it is
         QCOMPARE(displayNames(*shown.model), QStringList({"x"}));
     }
 
@@ -217,9 +208,10 @@ private Q_SLOTS:
         shown.list({shown.vfs.add("/home/dir/d", Entry::Dir), shown.file("f"), shown.file("g")}, shown.dir);
         QVERIFY(shown.model->index(0, 0).flags() & Qt::ItemIsDropEnabled);
         QVERIFY(!(shown.model->index(1, 0).flags() & Qt::ItemIsDropEnabled));
-        shown.tell(&EntryWatcher::entryChanged, grown("/home/dir/d", Entry::Dir));
-        shown.tell(&EntryWatcher::entryChanged, grown("/home/dir/f", Entry::File));
-        shown.tell(&EntryWatcher::entryCreated, grown("/home/dir/g", Entry::Archive)); // another kind sorts elsewhere
+        shown.vfs.tell(&EntryWatcher::entryChanged, grown("/home/dir/d", Entry::Dir));
+        shown.vfs.tell(&EntryWatcher::entryChanged, grown("/home/dir/f", Entry::File));
+        shown.vfs.tell(&EntryWatcher::entryCreated,
+                       grown("/home/dir/g", Entry::Archive)); // another kind sorts elsewhere
         const auto sizeAt = [&](int row) { return shown.model->entryByIndex(shown.model->index(row, 0)).fileSize(); };
         QCOMPARE(QList<qint64>({sizeAt(0), sizeAt(1), sizeAt(2)}), QList<qint64>({0, 99, 0}));
     }
@@ -241,13 +233,13 @@ private Q_SLOTS:
         shown.list({sub}, deep);
         shown.list({deep}, sub);
         QVERIFY(static_cast<ModelItem *>(model.index(1, 0).internalPointer())->finds(sub).size() > 1);
-        shown.tell(&EntryWatcher::entryReset, sub);
+        shown.vfs.tell(&EntryWatcher::entryReset, sub);
         shown.list({deep}, sub);
         shown.list({sub}, deep);
-        shown.tell(&EntryWatcher::entryDeleted, sub);
+        shown.vfs.tell(&EntryWatcher::entryDeleted, sub);
         QCOMPARE(displayNames(model), QStringList({"..", "f"}));
-        shown.tell(&EntryWatcher::entryDeleted, home);
-        shown.tell(&EntryWatcher::entryReset, shown.dir);
+        shown.vfs.tell(&EntryWatcher::entryDeleted, home);
+        shown.vfs.tell(&EntryWatcher::entryReset, shown.dir);
         QCOMPARE(model.rowCount(), 0);
     }
 
@@ -266,8 +258,8 @@ private Q_SLOTS:
         };
         QVERIFY(leavesAt(&Model::rowsInserted, [] {}));
         QVERIFY(leavesAt(&Model::layoutAboutToBeChanged,
-                         [&] { shown.tell(&EntryWatcher::entryChanged, shown.file("a")); }));
-        QVERIFY(leavesAt(&Model::rowsRemoved, [&] { shown.tell(&EntryWatcher::entryReset, shown.dir); }));
+                         [&] { shown.vfs.tell(&EntryWatcher::entryChanged, shown.file("a")); }));
+        QVERIFY(leavesAt(&Model::rowsRemoved, [&] { shown.vfs.tell(&EntryWatcher::entryReset, shown.dir); }));
     }
 
     void sorts()
@@ -288,7 +280,7 @@ private Q_SLOTS:
         model.rebuildWithPropertySortIndex(1, Model::KeepOrder);
         QCOMPARE(model.sortOrder(), Model::Descending);
         QCOMPARE(model.propertySortIndex(), 1);
-        shown.tell(&EntryWatcher::entryCreated, shown.file("0")); // of the same type: before all equal ones
+        shown.vfs.tell(&EntryWatcher::entryCreated, shown.file("0")); // of the same type: before all equal ones
         QCOMPARE(displayNames(model), QStringList({"0", "b", "a"}));
     }
 
@@ -304,7 +296,7 @@ private Q_SLOTS:
         model.rebuildWithEntryFilters({});
         model.setShowDotDot(false);
         model.rebuildWithMode(Model::InvalidMode);
-        model.rebuild(Entry(new FakeEntryData("/gone", {})));
+        model.rebuild(fakeEntry("/gone"));
         QCOMPARE(shown.vfs.watcher.asked, QStringList());
 
         model.setShowHiddenEntries(true);
@@ -355,22 +347,8 @@ private Q_SLOTS:
     {
         Shown shown;
         Model &model = *shown.model;
-        QStringList shadow;
-        QObject context;
-        const auto pathOf = [&](int row) { return model.entryByIndex(model.index(row, 0)).path(); };
-        connect(&model, &Model::rowsInserted, &context, [&](const QModelIndex &, int first, int last) {
-            for (int row = first; row <= last; ++row)
-                shadow.insert(row, pathOf(row));
-        });
-        connect(&model, &Model::rowsRemoved, &context, [&](const QModelIndex &, int first, int last) {
-            shadow.erase(shadow.begin() + first, shadow.begin() + last + 1);
-        });
-        connect(&model, &Model::modelReset, &context, [&] {
-            shadow.clear();
-            for (int row = 0; row < model.rowCount(); ++row)
-                shadow.append(pathOf(row));
-        });
-
+        ModelRows told(&model);
+        told.follow();
         QRandomGenerator random(5);
         const auto someName = [&] { return QStringLiteral("n%1").arg(random.bounded(900)); };
         model.rebuild(shown.dir);
@@ -379,26 +357,25 @@ private Q_SLOTS:
             if (what == 0)
                 model.sort(0, random.bounded(2) ? Qt::AscendingOrder : Qt::DescendingOrder);
             else if (what == 1)
-                shown.tell(&EntryWatcher::entryReset, shown.dir);
+                shown.vfs.tell(&EntryWatcher::entryReset, shown.dir);
             if (i == 0 || what < 4) {
                 QStringList names;
                 for (int n = random.bounded(700); n > 0; --n)
                     names.append(someName());
                 shown.list(shown.files(names), shown.dir);
             }
-            shown.tell(what % 7 < 3       ? &EntryWatcher::entryDeleted
-                           : what % 7 < 6 ? &EntryWatcher::entryCreated
-                                          : &EntryWatcher::entryChanged,
-                       shown.vfs.add("/home/dir/" + someName(), random.bounded(9) ? Entry::File : Entry::Dir));
+            shown.vfs.tell(what % 7 < 3       ? &EntryWatcher::entryDeleted
+                               : what % 7 < 6 ? &EntryWatcher::entryCreated
+                                              : &EntryWatcher::entryChanged,
+                           shown.vfs.add("/home/dir/" + someName(), random.bounded(9) ? Entry::File : Entry::Dir));
             if (i % 50 == 0) {
-                QCOMPARE(model.rowCount(), shadow.size());
-                for (int row = 0; row < shadow.size(); ++row) {
-                    QCOMPARE(pathOf(row), shadow.at(row));
-                    QCOMPARE(model.indexOfEntry(shown.vfs.entry(shadow.at(row))).row(), row);
-                }
+                const QStringList rows = told.all();
+                QCOMPARE(rows, ModelRows(&model).all());
+                for (int row = 0; row < rows.size(); ++row)
+                    QCOMPARE(model.indexOfEntry(shown.vfs.entry(rows.at(row))).row(), row);
             }
         }
-        QVERIFY(shadow.size() > 100);
+        QVERIFY(told.all().size() > 100);
     }
 };
 

@@ -60,8 +60,7 @@ private Q_SLOTS:
         for (const QString &source : qAsConst(sources))
             selection.append(tree.entry(source));
         const Entry present = tree.entry(destination);
-        PathAnalyzer analyzer(selection,
-                              present.isNull() ? Entry(new FakeEntryData(tree.path(destination), {})) : present);
+        PathAnalyzer analyzer(selection, present.isNull() ? fakeEntry(tree.path(destination)) : present);
         analyzer.resolve();
 
         QStringList pairs;

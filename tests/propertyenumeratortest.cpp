@@ -7,10 +7,7 @@
 #include <veskfm/propertydataholder.h>
 #include <veskfm/propertyenumerator.h>
 
-#include <QRandomGenerator>
-#include <QSemaphore>
-#include <QSignalSpy>
-#include <QTest>
+#include <QtTest>
 
 #include <memory>
 #include <stdexcept>
@@ -20,16 +17,9 @@ using namespace VeskFM;
 namespace
 {
 
-Entry named(const QString &path, const QVector<EntryTrait> &traits = {}, const QString &localPath = {})
+Entry numbered(int number)
 {
-    auto *const data = new FakeEntryData(path, traits);
-    data->local = localPath;
-    return Entry(data);
-}
-
-Entry named(int number)
-{
-    return named(QStringLiteral("/%1").arg(number));
+    return fakeEntry(QStringLiteral("/%1").arg(number));
 }
 
 /// One plug-in with one column, whose refinement tells its entry and waits at the gate.
@@ -107,12 +97,12 @@ private Q_SLOTS:
         SetRecord record;
         RecordingPlugin plugin(1, &record);
         PropertyEnumerator enumerator({&plugin});
-        const Entry file = named("/a", {}, "/local/a");
+        const Entry file = fakeEntry("/a", {}, "/local/a");
         PropertyDataHolder *holder = enumerator.allocPropertyDataHolder(file);
-        QCOMPARE(enumerator.allocPropertyDataHolder(named("/places/a", {}, "/local/a")), holder);
+        QCOMPARE(enumerator.allocPropertyDataHolder(fakeEntry("/places/a", {}, "/local/a")), holder);
         QCOMPARE(holder->referenceCount(), 2);
         PropertyDataHolder *ofStorage =
-            enumerator.allocPropertyDataHolder(named("/storage/a", {EntryTrait::StoragePlace}, "/local/a"));
+            enumerator.allocPropertyDataHolder(fakeEntry("/storage/a", {EntryTrait::StoragePlace}, "/local/a"));
         QVERIFY(ofStorage != holder);
         holder->preparePropertySet(file, 1, &enumerator);
         holder->setRefined();
@@ -135,10 +125,11 @@ private Q_SLOTS:
         PropertyEnumerator enumerator({});
         QVector<PropertyDataHolder *> holders;
         for (int i = 0; i < 5003; ++i)
-            holders.append(enumerator.allocPropertyDataHolder(named(i)));
+            holders.append(enumerator.allocPropertyDataHolder(numbered(i)));
         for (int i = holders.size() - 1; i >= 0; --i) // the last made is the oldest release
             enumerator.releasePropertyDataHolder(holders.at(i));
-        enumerator.releasePropertyDataHolder(enumerator.allocPropertyDataHolder(named(5002))); // and now the youngest
+        enumerator.releasePropertyDataHolder(
+            enumerator.allocPropertyDataHolder(numbered(5002))); // and now the youngest
 
         auto *foreign = new PropertyDataHolder(1); // somebody else's, given away by its release
         foreign->incrementReferenceCount();
@@ -147,9 +138,9 @@ private Q_SLOTS:
         enumerator.releaseDataHoldersTimeout();
         QCOMPARE(enumerator.idleHolderCount(), 5000);
         for (int kept : {5002, 4997, 0})
-            QCOMPARE(enumerator.allocPropertyDataHolder(named(kept)), holders.at(kept));
+            QCOMPARE(enumerator.allocPropertyDataHolder(numbered(kept)), holders.at(kept));
         QCOMPARE(enumerator.idleHolderCount(), 4997);
-        enumerator.allocPropertyDataHolder(named(5001)); // was trimmed: a new one, none taken from the idle
+        enumerator.allocPropertyDataHolder(numbered(5001)); // was trimmed: a new one, none taken from the idle
         QCOMPARE(enumerator.idleHolderCount(), 4997);
         enumerator.releaseDataHolders(-1);
         QCOMPARE(enumerator.idleHolderCount(), 0);
@@ -163,12 +154,12 @@ private Q_SLOTS:
         for (int step = 0; step < 30000; ++step) {
             const int number = int(random.bounded(3000));
             if (PropertyDataHolder *holder = held.value(number)) {
-                PropertyDataHolder *again = enumerator.allocPropertyDataHolder(named(number));
+                PropertyDataHolder *again = enumerator.allocPropertyDataHolder(numbered(number));
                 QCOMPARE(again, holder);
                 enumerator.releasePropertyDataHolder(again);
                 enumerator.releasePropertyDataHolder(held.take(number));
             } else {
-                held.insert(number, enumerator.allocPropertyDataHolder(named(number)));
+                held.insert(number, enumerator.allocPropertyDataHolder(numbered(number)));
             }
             if (step % 100 == 0)
                 enumerator.releaseDataHolders(int(random.bounded(100)));
@@ -184,7 +175,7 @@ private Q_SLOTS:
         records[0].emblems = QStringList{"a", "", "c", "", "five"};
         records[1].emblems = QStringList{"", "", "z", ""};
         const QVector<EntryPropertySet *> sets{&first, nullptr, &second};
-        const Entry plain = named("/x.DESKTOP"), desktop = named("/x.desktop");
+        const Entry plain = fakeEntry("/x.DESKTOP"), desktop = fakeEntry("/x.desktop");
         PropertyEnumerator enumerator({});
         QCOMPARE(enumerator.emblems(plain, sets), QStringList({"a", "", "z"}));
         QCOMPARE(enumerator.emblems(desktop, {&second}), QStringList({"emblem-symbolic-link", "", "z"}));
@@ -198,8 +189,8 @@ private Q_SLOTS:
         Engine engine;
         QStringList expected;
         for (int i = 0; i < 100; ++i) {
-            engine.refine(named(i));
-            expected.append(named(i).path());
+            engine.refine(numbered(i));
+            expected.append(numbered(i).path());
         }
         QCOMPARE(engine.enumerator->pendingRequestCount(), 100); // nothing runs before the start
         engine.patienceMs = 5;                                   // slow work
@@ -211,7 +202,7 @@ private Q_SLOTS:
         QCOMPARE(engine.order, expected);
         QVERIFY(!engine.overlapped);
         const EntryPropertyRequest last = engine.announced().last();
-        QCOMPARE(last.entry, named(99));
+        QCOMPARE(last.entry, numbered(99));
         QVERIFY(last.holder->isRefined());
         QCOMPARE(last.holder->referenceCount(), 1);
     }
@@ -223,9 +214,9 @@ private Q_SLOTS:
         engine.patienceMs = 30000;
         enumerator.startProcessing();
         enumerator.startProcessing();
-        engine.refine(named(1));
+        engine.refine(numbered(1));
         engine.started.acquire();
-        PropertyDataHolder *second = engine.refine(named(2));
+        PropertyDataHolder *second = engine.refine(numbered(2));
         enumerator.stopProcessing();
         enumerator.stopProcessing(); // balanced: nothing new starts, nothing is lost
         engine.patienceMs = 0;
@@ -238,14 +229,14 @@ private Q_SLOTS:
         QTRY_COMPARE(second->referenceCount(), 1);
         enumerator.stopProcessing();
 
-        PropertyDataHolder *discarded = engine.refine(named(3));
+        PropertyDataHolder *discarded = engine.refine(numbered(3));
         enumerator.stopProcessing(); // one too many
         QCOMPARE(enumerator.pendingRequestCount(), 0);
         enumerator.releasePropertyDataHolder(discarded);
         QCOMPARE(discarded->referenceCount(), 1); // the request's, for good
         QCOMPARE(enumerator.idleHolderCount(), 0);
 
-        PropertyDataHolder *last = engine.refine(named(4));
+        PropertyDataHolder *last = engine.refine(numbered(4));
         enumerator.startProcessing(); // makes up for that one
         QCOMPARE(enumerator.pendingRequestCount(), 1);
         enumerator.startProcessing();
@@ -262,9 +253,9 @@ private Q_SLOTS:
                         engine.enumerator->releasePropertyDataHolder(request.holder);
                     engine.enumerator->releaseDataHolders(0);
                     if (more-- > 0)
-                        engine.refine(named(more));
+                        engine.refine(numbered(more));
                 });
-        engine.refine(named(99));
+        engine.refine(numbered(99));
         engine.enumerator->startProcessing();
         QTRY_COMPARE(engine.record.refined.load(), 21);
         QTRY_COMPARE(engine.record.alive.load(), 0);
@@ -278,17 +269,17 @@ private Q_SLOTS:
         {
             RecordingSet set(&engine.record);
             PropertyDataHolder onStack(0);
-            engine.enumerator->updatePropertySets({&set}, &onStack, named(1));
-            engine.enumerator->updatePropertySets({&set}, &onStack, named(1));
+            engine.enumerator->updatePropertySets({&set}, &onStack, numbered(1));
+            engine.enumerator->updatePropertySets({&set}, &onStack, numbered(1));
             engine.started.acquire();
         }
         QCOMPARE(engine.running.load(), 0);
         QCOMPARE(engine.enumerator->pendingRequestCount(), 0);
-        PropertyDataHolder *next = engine.refine(named(2)); // the scheduler goes on behind it
+        PropertyDataHolder *next = engine.refine(numbered(2)); // the scheduler goes on behind it
         QTRY_COMPARE(next->referenceCount(), 1);
         engine.started.acquire();
 
-        engine.refine(named(3));
+        engine.refine(numbered(3));
         engine.started.acquire();
         engine.enumerator.reset();
         QCOMPARE(engine.running.load(), 0);
@@ -297,7 +288,7 @@ private Q_SLOTS:
     void leavesOutAndDestroysHoldersThatNobodyShows()
     {
         Engine engine;
-        engine.enumerator->releasePropertyDataHolder(engine.refine(named(0)));
+        engine.enumerator->releasePropertyDataHolder(engine.refine(numbered(0)));
         engine.enumerator->startProcessing();
         QVERIFY(engine.spy.wait());
         QCOMPARE(engine.announced().size(), 0);
@@ -306,11 +297,11 @@ private Q_SLOTS:
         QCOMPARE(engine.spy.size(), 1);
         engine.enumerator->stopProcessing();
 
-        PropertyDataHolder *shown = engine.refine(named(1));
+        PropertyDataHolder *shown = engine.refine(numbered(1));
         for (int i = 2; i < 5; ++i)
-            engine.enumerator->releasePropertyDataHolder(engine.refine(named(i)));
+            engine.enumerator->releasePropertyDataHolder(engine.refine(numbered(i)));
         engine.enumerator->stopProcessing();
-        engine.enumerator->releasePropertyDataHolder(engine.refine(named(5)));
+        engine.enumerator->releasePropertyDataHolder(engine.refine(numbered(5)));
         engine.enumerator.reset();
         QCOMPARE(engine.record.alive.load(), 1); // a row's
         delete shown;
@@ -321,20 +312,20 @@ private Q_SLOTS:
     {
         Engine engine;
         engine.record.onRefine = [](const Entry &entry) {
-            if (entry == named(1))
+            if (entry == numbered(1))
                 throw std::runtime_error("broken file");
             throw 1;
         };
         QTest::ignoreMessage(QtWarningMsg, "Computing the properties of \"/1\" failed: broken file");
         QTest::ignoreMessage(QtWarningMsg, "Computing the properties of \"/2\" failed");
-        PropertyDataHolder *holder = engine.refine(named(1));
+        PropertyDataHolder *holder = engine.refine(numbered(1));
         engine.enumerator->startProcessing();
         QTRY_COMPARE(holder->referenceCount(), 1);
         QVERIFY(holder->isRefined());
-        PropertyDataHolder *synchronous = engine.enumerator->allocPropertyDataHolder(named(2));
+        PropertyDataHolder *synchronous = engine.enumerator->allocPropertyDataHolder(numbered(2));
         engine.record.canRefine = true;
         synchronous->refinePropertyAtIndex(2, engine.enumerator.get());
-        QVERIFY(synchronous->preparePropertySet(named(2), 1, engine.enumerator.get()));
+        QVERIFY(synchronous->preparePropertySet(numbered(2), 1, engine.enumerator.get()));
     }
 };
 

@@ -2,22 +2,18 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "fakes.h"
+#include "testtree.h"
 
 #include <veskfm/service.h>
 #include <veskfm/settings.h>
 
 #include <QApplication>
-#include <QDBusConnection>
 #include <QDBusConnectionInterface>
-#include <QDBusMessage>
-#include <QDir>
-#include <QFile>
 #include <QMessageBox>
-#include <QTest>
-#include <QTimer>
+
+#include <QtTest>
 
 #include <csignal>
-#include <memory>
 #include <thread>
 
 using namespace VeskFM;
@@ -129,9 +125,7 @@ void ServiceTest::announcesItsEnd()
     QVERIFY(start(host()));
     QVERIFY(signalService(host(), SIGTERM));
     QTRY_VERIFY(!isOnBus(host()));
-    QFile file(QDir::homePath() + "/halted");
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("asked"));
+    QCOMPARE(contentOf(QDir::homePath() + "/halted"), QByteArray("asked"));
 }
 
 void ServiceTest::showsMessages_data()

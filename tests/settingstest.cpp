@@ -54,11 +54,7 @@ private:
         static const QString file = QSettings(QStringLiteral("tessaro"), QStringLiteral("vesk-fm")).fileName();
         return file;
     }
-    static QByteArray content()
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    static QByteArray content() { return contentOf(path()); }
     static void write(const QByteArray &text) // in place, as another process may do
     {
         QDir().mkpath(QFileInfo(path()).path());

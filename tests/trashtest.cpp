@@ -8,10 +8,7 @@
 #include <veskplatform/standardpaths.h>
 #include <veskplatform/vesktrash.h>
 
-#include <QDir>
-#include <QFile>
-#include <QTest>
-#include <QUrl>
+#include <QtTest>
 
 using namespace VeskFM;
 

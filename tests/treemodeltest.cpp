@@ -1,69 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "modelrows.h"
 #include "testtree.h"
 #include "treevfs.h"
 
 #include <veskfm/treemodel.h>
 
-#include <QRandomGenerator>
-#include <QSignalSpy>
-#include <QTest>
 #include <QTreeView>
+
+#include <QtTest>
 
 using namespace VeskFM;
 
 namespace
 {
-
-/// The rows of a tree, by the path of the parent; of those below the root by an empty one.
-class Rows
-{
-public:
-    explicit Rows(const TreeModel *model)
-        : m_model(model)
-    {
-        read(QModelIndex());
-    }
-    /// From now on it knows what a view knows that listens to the signals only.
-    void follow()
-    {
-        QObject::connect(m_model, &TreeModel::modelReset, m_model, [this] { read(QModelIndex()); });
-        QObject::connect(m_model, &TreeModel::rowsInserted, m_model, [this](const auto &parent, int first, int last) {
-            for (int row = first; row <= last; ++row) {
-                m_children[path(parent)].insert(row, path(m_model->index(row, 0, parent)));
-                read(m_model->index(row, 0, parent));
-            }
-        });
-        QObject::connect(m_model, &TreeModel::rowsRemoved, m_model, [this](const auto &parent, int first, int last) {
-            for (int row = first; row <= last; ++row)
-                m_children[path(parent)].removeAt(first);
-        });
-    }
-    void read(const QModelIndex &index)
-    {
-        m_children[path(index)].clear();
-        for (int row = 0; row < m_model->rowCount(index); ++row) {
-            m_children[path(index)].append(path(m_model->index(row, 0, index)));
-            read(m_model->index(row, 0, index));
-        }
-    }
-    QStringList all(const QString &parent = QString()) const ///< each before those below it
-    {
-        QStringList list;
-        for (const QString &child : m_children.value(parent))
-            list += QStringList(child) + all(child);
-        return list;
-    }
-
-private:
-    QString path(const QModelIndex &index) const
-    {
-        return index.isValid() ? m_model->entryByIndex(index).path() : QString();
-    }
-    const TreeModel *const m_model;
-    QHash<QString, QStringList> m_children;
-};
 
 /// A tree over the fake VFS that shows "/top".
 struct Shown
@@ -89,16 +40,10 @@ struct Shown
             if (VFS::parentDirPath(entry.path()) == path && entry.path() != path)
                 children.append(entry);
         }
-        Q_EMIT vfs.watcher.dirListed(vfs.entry(path), filters, children);
-        QCoreApplication::sendPostedEvents(&model);
-    }
-    void tell(void (EntryWatcher::*signal)(const Entry &), const Entry &entry)
-    {
-        Q_EMIT(vfs.watcher.*signal)(entry);
-        QCoreApplication::sendPostedEvents(&model);
+        vfs.answer(vfs.entry(path), filters, children);
     }
     QModelIndex at(const QString &path) { return model.indexOfEntry(vfs.entry(path)); }
-    QStringList rows() const { return Rows(&model).all(); }
+    QStringList rows() const { return ModelRows(&model).all(); }
 
     TreeVfs vfs;
     TreeModel model{ModelFilter::AllEntries};
@@ -140,13 +85,13 @@ private Q_SLOTS:
         QVERIFY(shown.at("/top/branch").data(Qt::DecorationRole).isValid()); // as when they are painted
         QVERIFY(leaf.data(Qt::DecorationRole).isValid());
         QVERIFY(shown.model.hasChildren(shown.at("/top/branch")) && !shown.model.hasChildren(leaf));
-        shown.tell(&EntryWatcher::entryCreated, shown.dir("/top/leaf/new")); // no leaf any more; still not listed
+        shown.vfs.tell(&EntryWatcher::entryCreated, shown.dir("/top/leaf/new")); // no leaf any more; still not listed
         QVERIFY(shown.model.hasChildren(leaf) && shown.model.rowCount(leaf) == 0);
 
         const QModelIndex trash = shown.at("/top/trash");
         shown.model.fetchMore(trash);
         QVERIFY(!shown.model.hasChildren(trash) && !shown.model.canFetchMore(trash));
-        shown.tell(&EntryWatcher::entryReset, shown.vfs.entry("/top/trash"));
+        shown.vfs.tell(&EntryWatcher::entryReset, shown.vfs.entry("/top/trash"));
         QCOMPARE(shown.vfs.watcher.asked, QStringList{"/top 4"});
     }
 
@@ -195,14 +140,14 @@ private Q_SLOTS:
         shown.list("/top");
         const QPersistentModelIndex below = shown.at("/top/b/c/d").parent();
         shown.list("/top/b");
-        shown.tell(&EntryWatcher::entryReset, shown.vfs.entry("/top/b/c")); // still there: listed again
+        shown.vfs.tell(&EntryWatcher::entryReset, shown.vfs.entry("/top/b/c")); // still there: listed again
         QVERIFY(below.isValid() && shown.model.rowCount(below) == 0);
         QCOMPARE(shown.vfs.watcher.asked.count("/top/b/c 4"), 2);
-        shown.tell(&EntryWatcher::entryReset, shown.vfs.nodes.take("/top/b"));
+        shown.vfs.tell(&EntryWatcher::entryReset, shown.vfs.nodes.take("/top/b"));
         QVERIFY(!below.isValid());
         shown.list("/top/b/c"); // an answer that was under way
         QCOMPARE(shown.rows(), QStringList{"/top/a"});
-        shown.tell(&EntryWatcher::entryReset, shown.vfs.nodes.take("/top")); // the root stays
+        shown.vfs.tell(&EntryWatcher::entryReset, shown.vfs.nodes.take("/top")); // the root stays
         QCOMPARE(shown.rows(), QStringList{"/top/a"});
     }
 
@@ -218,7 +163,7 @@ private Q_SLOTS:
     {
         QRandomGenerator random(4711);
         Shown shown;
-        Rows told(&shown.model);
+        ModelRows told(&shown.model);
         told.follow();
         QStringList known{"/top"};
         int most = 0;
@@ -228,15 +173,15 @@ private Q_SLOTS:
             const uint what = entry.isNull() ? 99 : random.bounded(40u);
             if (what < 12 && path.size() < 20) {
                 known.append(path + '/' + QString::number(step));
-                shown.tell(&EntryWatcher::entryCreated, shown.dir(known.last()));
+                shown.vfs.tell(&EntryWatcher::entryCreated, shown.dir(known.last()));
             } else if (what < 14 && path != "/top") {
                 for (const QString &other : qAsConst(known)) {
                     if (other.startsWith(path))
                         shown.vfs.nodes.remove(other);
                 }
-                shown.tell(what == 13 ? &EntryWatcher::entryDeleted : &EntryWatcher::entryReset, entry);
+                shown.vfs.tell(what == 13 ? &EntryWatcher::entryDeleted : &EntryWatcher::entryReset, entry);
             } else if (what == 15) {
-                shown.tell(&EntryWatcher::entryReset, entry);
+                shown.vfs.tell(&EntryWatcher::entryReset, entry);
             } else if (what < 22) {
                 shown.model.fetchMore(shown.at(path));
                 told.read(QModelIndex()); // a view learns of silent rows by going there

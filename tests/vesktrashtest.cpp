@@ -3,10 +3,7 @@
 
 #include <veskplatform/vesktrash.h>
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTest>
+#include <QtTest>
 
 #include <fcntl.h>
 #include <sys/stat.h>

@@ -3,6 +3,8 @@
 
 #include "fakes.h"
 
+#include "testtree.h"
+
 #include <veskfm/vendordomainprefix.h>
 
 #include <QCoreApplication>
@@ -59,15 +61,19 @@ void setFakeBehaviour(const char *behaviour)
 
 QStringList fakeCalls()
 {
-    QFile file(callsPath());
-    return file.open(QIODevice::ReadOnly)
-        ? QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)
-        : QStringList();
+    return QString::fromUtf8(contentOf(callsPath())).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
 void clearFakeCalls()
 {
     QFile::remove(callsPath());
+}
+
+void resetFake(const QString &name)
+{
+    signalService(name, SIGKILL);
+    setFakeBehaviour("");
+    clearFakeCalls();
 }
 
 bool isOnBus(const QString &name)

@@ -14,6 +14,8 @@ void setFakeBehaviour(const char *behaviour);
 /// The calls that the fakes have got since the last clearing: "method signature arguments".
 QStringList fakeCalls();
 void clearFakeCalls();
+/// Kills the fake of @p name; its next start is like a first one.
+void resetFake(const QString &name);
 
 bool isOnBus(const QString &name);
 /// To the process that owns @p name; false when there is none. SIGKILL also waits until the bus knows.

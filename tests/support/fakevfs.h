@@ -41,6 +41,13 @@ private:
     const QString m_path;
 };
 
+inline Entry fakeEntry(const QString &path, const QVector<EntryTrait> &traits = {}, const QString &localPath = {})
+{
+    auto *const data = new FakeEntryData(path, traits);
+    data->local = localPath;
+    return Entry(data);
+}
+
 /// Stands in for the VFS while it lives: the local one, except for what the test sets.
 class FakeVfs : public VFS
 {

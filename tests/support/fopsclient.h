@@ -19,12 +19,6 @@
 
 #include <memory>
 
-/// An entry of a path where nothing is yet.
-inline VeskFM::Entry plannedEntry(const QString &path)
-{
-    return VeskFM::Entry(new VeskFM::FakeEntryData(path, {}));
-}
-
 /// The real file-operation service, as a client and as a process.
 namespace FopsClient
 {

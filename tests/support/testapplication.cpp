@@ -44,8 +44,7 @@ void TestApplication::addProgram(TestTree *tree, const QByteArray &name)
 
 QByteArray TestApplication::starts(const TestTree &tree, const QByteArray &name)
 {
-    QFile file(tree.path(QFile::decodeName(name) + ".starts"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return contentOf(tree.path(QFile::decodeName(name) + ".starts"));
 }
 
 QByteArray TestApplication::takeStart()

@@ -79,6 +79,12 @@ void TestTree::remove(const QByteArray &name)
     fs::remove_all(bytes(name).constData());
 }
 
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 EntryWatcher *watcher()
 {
     return VFS::ptr()->entryWatcher();

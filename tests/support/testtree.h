@@ -36,6 +36,8 @@ private:
     QTemporaryDir m_dir;
 };
 
+QByteArray contentOf(const QString &path); ///< of a file; nothing when it cannot be read
+
 /// The watcher of the VFS in use.
 VeskFM::EntryWatcher *watcher();
 

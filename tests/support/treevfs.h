@@ -8,6 +8,7 @@
 #include <veskplatform/entrywatcher.h>
 #include <veskplatform/vfsplacebase.h>
 
+#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -83,6 +84,18 @@ public:
     bool mayContainContainers(const Entry &entry) const override { return !leaves.contains(entry.path()); }
     VFSPlaceBase *placeBase() const override { return &places; }
     EntryWatcher *entryWatcher() const override { return &watcher; }
+
+    /// Lets the watcher say so, and the models hear it.
+    void tell(void (EntryWatcher::*what)(const Entry &), const Entry &entry) const
+    {
+        Q_EMIT(watcher.*what)(entry);
+        QCoreApplication::sendPostedEvents();
+    }
+    void answer(const Entry &entry, EntryChildFilters filters, const EntryList &children) const
+    {
+        Q_EMIT watcher.dirListed(entry, filters, children);
+        QCoreApplication::sendPostedEvents();
+    }
 
     QHash<QString, Entry> nodes; // by path; what is not in here does not exist
     QStringList leaves;          // paths of the directories that cannot contain directories
