@@ -7,6 +7,7 @@
 #include "directoryview.h"
 #include "iconview.h"
 #include "listingcurtain.h"
+#include "listingstate.h"
 #include "selectionkeeper.h"
 
 #include <veskfm/model.h>
@@ -148,7 +149,7 @@ EntryList EntryViews::selectedEntries() const
               [](const QItemSelectionRange &a, const QItemSelectionRange &b) { return a.top() < b.top(); });
     EntryList entries;
     for (const QItemSelectionRange &range : qAsConst(ranges)) {
-        for (int row = range.top(); range.left() == 0 && row <= range.bottom(); ++row)
+        for (int row = qMax(firstRow(), range.top()); range.left() == 0 && row <= range.bottom(); ++row)
             entries.append(m_model->entryByIndex(m_model->index(row, 0)));
     }
     return entries;
@@ -160,13 +161,27 @@ Entry EntryViews::currentEntry() const
     return current.isValid() ? m_model->entryByIndex(current) : Entry();
 }
 
+void EntryViews::selectAll()
+{
+    selectionModel()->select(allRows(), QItemSelectionModel::ClearAndSelect);
+}
+
 void EntryViews::invertSelection()
 {
-    const int rows = m_model->rowCount();
-    if (rows == 0)
-        return;
-    const QItemSelection all(m_model->index(0, 0), m_model->index(rows - 1, m_model->columnCount() - 1));
-    selectionModel()->select(all, QItemSelectionModel::Toggle);
+    selectionModel()->select(allRows(), QItemSelectionModel::Toggle);
+}
+
+// A rubber band takes the ".." row, too, and nobody wants the parent directory deleted.
+int EntryViews::firstRow() const
+{
+    return m_model->rowCount() - entryCount(*m_model);
+}
+
+QItemSelection EntryViews::allRows() const
+{
+    const QModelIndex first = m_model->index(firstRow(), 0);
+    const QModelIndex last = m_model->index(m_model->rowCount() - 1, m_model->columnCount() - 1);
+    return first.isValid() ? QItemSelection(first, last) : QItemSelection();
 }
 
 void EntryViews::showEntry(const Entry &entry)

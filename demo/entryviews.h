@@ -8,14 +8,13 @@
 #include <veskfm/iconsize.h>
 #include <veskplatform/entrylist.h>
 
-#include <QModelIndex>
+#include <QItemSelection>
 #include <QStackedWidget>
 
 class DirectoryView;
 class IconView;
 class QAbstractItemView;
 class QDropEvent;
-class QItemSelectionModel;
 class QLabel;
 
 namespace VeskFM
@@ -47,6 +46,7 @@ public:
     QItemSelectionModel *selectionModel() const;
     VeskFM::EntryList selectedEntries() const; ///< in the order of the rows
     VeskFM::Entry currentEntry() const;        ///< null without a cursor
+    void selectAll();
     void invertSelection();
     /// Selects the row of @p entry and scrolls to it. When it has none, the cursor goes to the first row at least.
     void showEntry(const VeskFM::Entry &entry);
@@ -74,6 +74,8 @@ protected:
 private:
     void adopt(QAbstractItemView *view);
     void applyIconSize(Mode mode);
+    int firstRow() const;
+    QItemSelection allRows() const;
     bool onKey(QAbstractItemView *view, int key, Qt::KeyboardModifiers modifiers);
     bool onWheel(int delta, Qt::KeyboardModifiers modifiers);
     EntryDrops::Place dropPlace(QAbstractItemView *view, const QDropEvent &event) const;

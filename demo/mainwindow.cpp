@@ -209,7 +209,7 @@ void MainWindow::connectActions()
     on(actions.newWindow, &MainWindow::openAnotherWindow);
     on(actions.closeWindow, &QWidget::close);
     on(actions.quit, &QWidget::close);
-    on(actions.selectAll, [this] { m_active->views()->view()->selectAll(); });
+    on(actions.selectAll, [this] { m_active->views()->selectAll(); });
     on(actions.invertSelection, [this] { m_active->views()->invertSelection(); });
     on(actions.back, [this] { m_active->goBack(); });
     on(actions.forward, [this] { m_active->goForward(); });
