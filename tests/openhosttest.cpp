@@ -90,6 +90,7 @@ private Q_SLOTS:
     void tellsWhatCanBeOpened();
     void toolTellsByItsExitCode_data();
     void toolTellsByItsExitCode();
+    void answersWhenItsDisplayIsGone(); // last: the bus keeps such a display
 
 private:
     TestTree m_tree;
@@ -305,6 +306,16 @@ void OpenHostTest::toolTellsByItsExitCode()
     if (opened)
         QCOMPARE(m_editor.takeStart().count("<--as>"), opened);
     QCOMPARE(m_editor.starts(), QByteArray());
+}
+
+void OpenHostTest::answersWhenItsDisplayIsGone()
+{
+    const Entry text = m_tree.add("plain.txt", "text");
+    QVERIFY(signalService(Open::ptr()->serviceName(), SIGKILL));
+    setActivationEnvironment({{"DISPLAY", ":4711"}, {"QT_QPA_PLATFORM", ""}});
+    QTRY_VERIFY(Open::ptr()->canOpen(text));
+    Open::ptr()->open(EntryList(text), {{"dialog", true}}); // refused
+    QVERIFY(Open::ptr()->canOpen(text) && isOnBus(Open::ptr()->serviceName()));
 }
 
 QTEST_MAIN(OpenHostTest)

@@ -128,12 +128,11 @@ int main(int argc, char **argv)
 
     const LaunchContext context = LaunchContext::fromProcess();
     if (arguments.option == "-o") {
-        if (!GuiHost::hasDisplay()) {
-            complain(arguments.paths.first(), "there is no display to choose an application on");
-            return NotOpened;
-        }
         const GuiHost application(argc, argv, QStringLiteral("vesk-open"));
-        return run(arguments, context);
+        if (GuiHost::hasDisplay())
+            return run(arguments, context);
+        complain(arguments.paths.first(), "there is no display to choose an application on");
+        return NotOpened;
     }
     const QCoreApplication application(argc, argv); // needs no display
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));

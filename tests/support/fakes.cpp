@@ -15,7 +15,6 @@
 #include <QDBusReply>
 #include <QDir>
 #include <QFile>
-#include <QMap>
 #include <QTest>
 
 #include <csignal>
@@ -51,12 +50,15 @@ QString busName(const char *name)
     return QLatin1String(VeskFM::VendorDomainPrefix) + QLatin1String(name);
 }
 
+void setActivationEnvironment(const QMap<QString, QString> &variables)
+{
+    qDBusRegisterMetaType<QMap<QString, QString>>();
+    bus()->call(QStringLiteral("UpdateActivationEnvironment"), QVariant::fromValue(variables));
+}
+
 void setFakeBehaviour(const char *behaviour)
 {
-    using Variables = QMap<QString, QString>;
-    qDBusRegisterMetaType<Variables>();
-    bus()->call(QStringLiteral("UpdateActivationEnvironment"),
-                QVariant::fromValue(Variables{{QStringLiteral("VESKFM_FAKE"), QLatin1String(behaviour)}}));
+    setActivationEnvironment({{QStringLiteral("VESKFM_FAKE"), QLatin1String(behaviour)}});
 }
 
 QStringList fakeCalls()

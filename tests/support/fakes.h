@@ -3,12 +3,15 @@
 
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
 /// The full name on the bus: ".vesk-fm.fops" gets the prefix before it.
 QString busName(const char *name);
 
+/// What the bus starts from now on gets this too.
+void setActivationEnvironment(const QMap<QString, QString> &variables);
 /// The services of tests/fakes behave like this from their next start on; see fakeservice.cpp.
 void setFakeBehaviour(const char *behaviour);
 /// The calls that the fakes have got since the last clearing: "method signature arguments".
