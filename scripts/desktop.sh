@@ -52,6 +52,32 @@ window() {
 keys() { xdotool key --clearmodifiers --delay 40 "$@"; }
 write() { xdotool type --clearmodifiers --delay 15 -- "$1"; }
 
-# copied_urls: what is in the clipboard
+# copied_urls: what is in the clipboard, a URL a line
 copied_urls() { timeout 5 xclip -selection clipboard -o -t text/uri-list 2>/dev/null | tr -d '\r'; }
-clipboard_has() { copied_urls | grep -q -- "$1"; }
+copied() { copied_urls | grep -q -- "/$1\$"; }
+
+# select_row NAME: waits for the row of that name, and puts the cursor on it. It goes through the clipboard.
+select_row() {
+    await row_is_there "$1"
+    sleep 0.5 # so that the toolkit does not take it for more of the name typed before
+    write "$1"
+}
+row_is_there() {
+    keys ctrl+a ctrl+c
+    copied "$1"
+}
+
+# enter NAME: opens a row; the window then bears its name
+enter() {
+    select_row "$1"
+    keys Return
+    window "^$1\$"
+}
+
+# visit DIR: goes there by its path
+visit() {
+    keys ctrl+l
+    write "$1"
+    keys Return
+    window "^${1##*/}\$"
+}
