@@ -32,7 +32,7 @@ std::vector<int> sortedPlaces(const EntryStore &entries, EntryOrder order, bool 
     if (order == EntryOrder::Size) {
         std::vector<qint64> sizes;
         for (size_t place = 0; place < count; ++place)
-            sizes.push_back(entries.at(place).isFile() ? entries.at(place).fileSize() : -1);
+            sizes.push_back(entries.at(place).isDir() ? -1 : entries.at(place).fileSize());
         return sortedBy(sizes, descending);
     }
     QCollator collator;

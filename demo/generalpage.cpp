@@ -107,7 +107,7 @@ void GeneralPage::describeOne(const Entry &entry)
     addRow(QStringLiteral("location"), tr("Location"), folderOf(entry));
     if (entry.isSymLink())
         addRow(QStringLiteral("target"), tr("Link to"), printableText(entry.symLinkTarget()));
-    if (entry.isFile()) {
+    if (entry.isFile() || entry.isArchiveMountPoint()) {
         const QString bytes = locale().toString(entry.fileSize());
         addRow(QStringLiteral("size"), tr("Size"),
                tr("%1 (%2 bytes)").arg(Core::dataSizeAsString(entry.fileSize()), bytes));

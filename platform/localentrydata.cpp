@@ -120,7 +120,7 @@ bool LocalFacts::is(EntryTrait trait) const
     case EntryTrait::Exists:
         return flags & Exists;
     case EntryTrait::File:
-        return !is(EntryTrait::Dir);
+        return !is(EntryTrait::Dir) && !is(EntryTrait::ArchiveMountPoint); // who shows a file does not list it
     case EntryTrait::Dir:
         return kind == Entry::Dir || kind == Entry::DirLink;
     case EntryTrait::SymLink:

@@ -81,7 +81,7 @@ void ArchiveTest::showsWhatWasPacked()
              QStringList({".hidden 0", "d/", "d/inner/", "d/inner/deep 300000", "d/link => inner", "empty/",
                           "nested.zip 11", "top.txt 3"}));
     QCOMPARE(archiveProblem(archive), QString());
-    QVERIFY(archive.isFile() && archive.isArchiveMountPoint() && archive.localPath() == path);
+    QVERIFY(!archive.isFile() && archive.isArchiveMountPoint() && archive.localPath() == path);
 
     const Entry deep = vfs.entry(path + "/d/link/deep");
     QCOMPARE(deep.path(), path + "/d/link/deep");

@@ -41,7 +41,7 @@ ContentMatch::ContentMatch(const QString &text, Qt::CaseSensitivity sensitivity,
 
 bool ContentMatch::match(const Entry &entry) const
 {
-    if (!entry.isFile() || entry.isSymLink() || entry.fileSize() == 0)
+    if (entry.isDir() || entry.isSymLink() || entry.fileSize() == 0)
         return false;
     const QByteArray path = diskPath(entry);
     struct stat found = {}; // to open some devices is to move them

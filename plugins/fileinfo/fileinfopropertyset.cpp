@@ -83,7 +83,8 @@ QVariant FileInfoPropertySet::headerData(int index, int role)
 void FileInfoPropertySet::prepare(const Entry &entry)
 {
     const bool isMissing = !entry.isPlace() && !entry.isExists() && !entry.isSymLink();
-    m_size = isMissing ? unreadable : entry.isFile() ? entry.fileSize() : noSize;
+    const bool hasSize = entry.isFile() || entry.isArchiveMountPoint();
+    m_size = isMissing ? unreadable : hasSize ? entry.fileSize() : noSize;
     const Guard guard(this);
     m_facts = Facts();
     ++m_generation;

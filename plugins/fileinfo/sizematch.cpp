@@ -17,7 +17,7 @@ SizeMatch::SizeMatch(qint64 least, qint64 most, bool acceptsDirectories)
 
 bool SizeMatch::match(const Entry &entry) const
 {
-    if (!entry.isFile())
+    if (!entry.isFile() && !entry.isArchiveMountPoint())
         return m_acceptsDirectories;
     return entry.fileSize() >= m_least && entry.fileSize() <= m_most;
 }
