@@ -72,14 +72,20 @@ void FindThread::walk()
     const NameMatcher names(m_query.namePatterns);
     EntryEnumerator enumerator;
     enumerator.setIncludeSubdirs(m_query.subdirectories);
-    enumerator.setIncludeHidden(m_query.hiddenEntries);
     enumerator.setIncludeArchives(m_query.archives);
     enumerator.setStartEntry(m_query.start);
+    QString hiddenDirectory; // the walk goes on below it, with entries whose own names are not hidden
     while (!isStopRequested()) {
-        Entry entry = enumerator.nextEntry();
+        Entry entry = enumerator.getNextEntry();
         if (entry.isNull())
             return;
         m_lookedAt.fetch_add(1, std::memory_order_relaxed);
+        const bool isInHidden = !hiddenDirectory.isEmpty() && entry.path().startsWith(hiddenDirectory);
+        if (!m_query.hiddenEntries && (isInHidden || entry.isHidden())) {
+            if (!isInHidden)
+                hiddenDirectory = entry.path() + QLatin1Char('/');
+            continue;
+        }
         if (!matches(entry, names) || isStopRequested()) // a test that was stopped has decided nothing
             continue;
         const QMutexLocker lock(&m_foundMutex);

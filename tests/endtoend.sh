@@ -57,7 +57,7 @@ keys ctrl+f
 window '^Find'
 write '*.TXT'
 keys Return
-window '^Find: 3 found$' # two letters and the copy
+window '^Find: 3 found$' # two letters and the copy, nothing below hidden folders
 keys Escape
 await no_window_titled '^Find'
 
