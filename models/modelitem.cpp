@@ -6,6 +6,7 @@
 #include "childlist.h"
 #include "itemcomparison.h"
 #include "itemsorter.h"
+#include "leaf.h"
 #include "model_p.h"
 
 #include <veskfm/propertydataholder.h>
@@ -23,9 +24,9 @@ ModelItem::ModelItem(const Entry &entry, const Model *model, ModelItem *parent)
     , m_model(model)
     , m_parent(parent)
 {
-    const bool isFile = m_entry.isFile();
-    set(ChildsInited, isFile);
-    set(NeedsLateInit, !isFile);
+    const bool leaf = isLeaf(m_entry);
+    set(ChildsInited, leaf);
+    set(NeedsLateInit, !leaf);
     if (PropertyEnumerator *const enumerator = propertyEnumerator()) {
         m_dataHolder = enumerator->allocPropertyDataHolder(m_entry);
         set(NeedsRefine, !m_dataHolder->isRefined());
@@ -274,7 +275,7 @@ void ModelItem::insertChild(int row, ModelItem *child)
     m_children->insert(row, child);
     if (ModelPrivate *const d = modelPrivate())
         d->itemIndex.insert(child, ItemIndex::hashOf(child->m_entry));
-    if (!hasNodeChilds() && !child->m_entry.isFile())
+    if (!hasNodeChilds() && !isLeaf(child->m_entry))
         setHasNodeChilds(true);
 }
 
