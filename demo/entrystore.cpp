@@ -3,7 +3,7 @@
 
 #include "entrystore.h"
 
-#include <QtConcurrentRun>
+#include <thread>
 
 using namespace VeskFM;
 
@@ -21,5 +21,5 @@ void EntryStore::clearInBackground()
         return;
     auto *const doomed = new EntryStore(std::move(*this));
     *this = {};
-    QtConcurrent::run([doomed] { delete doomed; });
+    std::thread([doomed] { delete doomed; }).detach();
 }

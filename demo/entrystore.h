@@ -16,7 +16,7 @@ public:
     size_t size() const { return m_size; }
     const VeskFM::Entry &at(size_t place) const { return m_chunks[place / chunkSize].get()[place % chunkSize]; }
     void append(VeskFM::Entry &&entry); ///< for one of the copies only
-    void clearInBackground();           ///< the memory is given back on the global thread pool
+    void clearInBackground();           ///< the memory is given back by another thread
 
 private:
     static constexpr size_t chunkSize = 4096;

@@ -50,7 +50,7 @@ bool FindThread::isStopRequested() const
 
 std::vector<Entry> FindThread::takeFound()
 {
-    const QMutexLocker lock(&m_foundMutex);
+    const std::lock_guard<std::mutex> lock(m_foundMutex);
     return std::exchange(m_found, {});
 }
 
@@ -88,7 +88,7 @@ void FindThread::walk()
         }
         if (!matches(entry, names) || isStopRequested()) // a test that was stopped has decided nothing
             continue;
-        const QMutexLocker lock(&m_foundMutex);
+        const std::lock_guard<std::mutex> lock(m_foundMutex);
         m_found.push_back(std::move(entry));
     }
 }

@@ -7,9 +7,8 @@
 
 #include <veskfm/thread.h>
 
-#include <QMutex>
-
 #include <atomic>
+#include <mutex>
 
 /// Walks a tree and collects what a query asks for. Who wants results takes them from time to time, so that a million
 /// of them costs nobody a million events.
@@ -42,6 +41,6 @@ private:
     FindQuery m_query; // the worker's while it runs
     std::atomic<bool> m_running{true};
     std::atomic<int> m_lookedAt{0};
-    QMutex m_foundMutex;
+    std::mutex m_foundMutex;
     std::vector<VeskFM::Entry> m_found; // guarded by m_foundMutex
 };
