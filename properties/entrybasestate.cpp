@@ -253,6 +253,8 @@ EntryBaseStatePtr EntryBaseState::prepared(const Entry &entry)
                 return published(std::move(state));
             }
             state.mimeType = directoryMimeType();
+        } else if (entry.isArchiveMountPoint()) {
+            state.mimeType = mimeTypeForFile(entry.path(), false); // its icon is fixed: no refinement will tell it
         }
         if (entry.isFSRoot())
             state.displayName = QStringLiteral("/");

@@ -7,6 +7,9 @@
 source "$(dirname "$(readlink -f "$0")")/../scripts/desktop.sh"
 browser=$1
 
+permissions_are() { [ "$(stat -c %a "$2")" = "$1" ]; }
+settings_have() { grep -rqs -- "$1" "$XDG_CONFIG_HOME"; }
+
 start_desktop 1280x900
 mkdir -p "$HOME/Work/Letters" "$HOME/Work/Target" "$HOME/.hidden"
 echo 'Dear Sir' >"$HOME/Work/Letters/one.txt"
@@ -66,3 +69,16 @@ visit "$HOME/Work/Letters"
 select_row one.txt
 keys alt+Return
 window 'one.txt'
+[ "$(xdotool getactivewindow getwindowname)" = 'Properties of one.txt' ] || fail "another title"
+keys ctrl+Tab Tab Tab Tab Tab space Return # on the page of permissions: the owner may write, off
+await no_window_titled 'one.txt'
+await permissions_are 400 "$HOME/Work/Letters/one.txt"
+
+echo "# settings: hide a place from another window"
+"$browser" "$HOME/Work" &
+desktop_pids+=($!)
+window '^Work$'
+keys ctrl+comma
+window '^Settings$'
+keys ctrl+Tab ctrl+Tab ctrl+Tab Tab Home Down Down space # the third page, the first of the places
+await settings_have hiddenTreeItems=FileSystem
