@@ -5,7 +5,6 @@
 
 #include "itemcomparison.h"
 #include "itemsorter.h"
-#include "leaf.h"
 #include "model_p.h"
 
 #include <algorithm>
@@ -50,7 +49,7 @@ void ModelPrivate::addListedChildren(ModelItem *item, const EntryList &children)
     const std::vector<ModelItem *> former = item->childItems();
     const std::vector<ModelItem *> added = acceptedChildren(item, children);
     item->setChildItems(insertedItems(former, added, ItemComparison(item)));
-    if (std::any_of(added.begin(), added.end(), [](const ModelItem *child) { return !isLeaf(child->entry()); }))
+    if (std::any_of(added.begin(), added.end(), [](const ModelItem *child) { return !child->entry().isFile(); }))
         item->setHasNodeChilds(true);
     item->setChildsIniting(false);
     item->setChildsInited(true);

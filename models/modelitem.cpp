@@ -6,7 +6,6 @@
 #include "childlist.h"
 #include "itemcomparison.h"
 #include "itemsorter.h"
-#include "leaf.h"
 #include "model_p.h"
 
 #include <veskfm/propertydataholder.h>
@@ -24,9 +23,9 @@ ModelItem::ModelItem(const Entry &entry, const Model *model, ModelItem *parent)
     , m_model(model)
     , m_parent(parent)
 {
-    const bool leaf = isLeaf(m_entry);
-    set(ChildsInited, leaf);
-    set(NeedsLateInit, !leaf);
+    const bool isFile = m_entry.isFile();
+    set(ChildsInited, isFile);
+    set(NeedsLateInit, !isFile);
     if (PropertyEnumerator *const enumerator = propertyEnumerator()) {
         m_dataHolder = enumerator->allocPropertyDataHolder(m_entry);
         set(NeedsRefine, !m_dataHolder->isRefined());
@@ -275,7 +274,7 @@ void ModelItem::insertChild(int row, ModelItem *child)
     m_children->insert(row, child);
     if (ModelPrivate *const d = modelPrivate())
         d->itemIndex.insert(child, ItemIndex::hashOf(child->m_entry));
-    if (!hasNodeChilds() && !isLeaf(child->m_entry))
+    if (!hasNodeChilds() && !child->m_entry.isFile())
         setHasNodeChilds(true);
 }
 

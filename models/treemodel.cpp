@@ -3,7 +3,6 @@
 
 #include <veskfm/treemodel.h>
 
-#include "leaf.h"
 #include "treemodel_p.h"
 #include "waitcursor.h"
 
@@ -82,7 +81,7 @@ void TreeModelPrivate::initItem(ModelItem *item)
 
 void TreeModelPrivate::lateInitItem(ModelItem *item)
 {
-    item->setHasNodeChilds(!isLeaf(item->entry()) && VFS::ptr()->mayContainContainers(item->entry()));
+    item->setHasNodeChilds(!item->entry().isFile() && VFS::ptr()->mayContainContainers(item->entry()));
 }
 
 EntryList TreeModelPrivate::pathBelow(const Entry &top, const Entry &entry)

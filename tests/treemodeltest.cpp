@@ -66,7 +66,6 @@ private Q_SLOTS:
         QCOMPARE(shown.rows(), QStringList());
         shown.list("/top");
         QCOMPARE(shown.rows(), QStringList({"/top/dir", "/top/mounted"}));
-        QVERIFY(shown.model.canFetchMore(shown.model.index(1, 0))); // an archive is listed, though it is a file
         shown.model.setArchivesAreFiles(true);
         shown.model.setShowHiddenEntries(true);
         shown.list("/top", VFS::ContainersOnly | VFS::ArchivesAsFiles);

@@ -49,7 +49,7 @@ public:
 
     bool hasNodeChilds() const { return test(HasNodeChilds); } ///< whether a tree shows an expander
     void setHasNodeChilds(bool has) { set(HasNodeChilds, has); }
-    bool isChildsInited() const { return test(ChildsInited); } ///< the children are listed; true for any file but an archive
+    bool isChildsInited() const { return test(ChildsInited); } ///< the children are listed; true for any file
     void setChildsInited(bool inited) { set(ChildsInited, inited); }
     bool isChildsIniting() const { return test(ChildsIniting); } ///< a listing is under way
     void setChildsIniting(bool initing) { set(ChildsIniting, initing); }
