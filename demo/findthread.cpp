@@ -79,7 +79,7 @@ void FindThread::walk()
         Entry entry = enumerator.getNextEntry();
         if (entry.isNull())
             return;
-        m_lookedAt.fetch_add(1, std::memory_order_relaxed);
+        m_lookedAt.store(m_lookedAt.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed); // nobody else does
         const bool isInHidden = !hiddenDirectory.isEmpty() && entry.path().startsWith(hiddenDirectory);
         if (!m_query.hiddenEntries && (isInHidden || entry.isHidden())) {
             if (!isInHidden)
@@ -95,7 +95,7 @@ void FindThread::walk()
 
 bool FindThread::matches(const Entry &entry, const NameMatcher &names) const
 {
-    return names.matches(entry.fileName())
+    return (names.matchesAll() || names.matches(entry.fileName()))
         && std::all_of(m_query.validators.cbegin(), m_query.validators.cend(),
                        [&entry](const auto &validator) { return validator->match(entry); });
 }

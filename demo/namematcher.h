@@ -5,15 +5,20 @@
 
 #include <QRegularExpression>
 #include <QStringList>
+#include <QStringMatcher>
+#include <QVector>
 
 /// Holds names against wildcard patterns, in any case. Quick enough to be asked a million times. Thread: any.
 class NameMatcher
 {
 public:
     explicit NameMatcher(const QStringList &patterns); ///< matches what one of them matches as a whole
+    bool matchesAll() const { return m_matchesAll; }   ///< then nobody has to make the name for matches()
     bool matches(const QString &name) const;
 
 private:
     bool m_matchesAll;
-    QRegularExpression m_expression;
+    QVector<QStringMatcher> m_parts; // the usual patterns, "*part*" and "*end", are quicker without an expression
+    QStringList m_ends;
+    QRegularExpression m_expression; // for the others; empty for none
 };
