@@ -251,6 +251,8 @@ bool EntryViews::onKey(QAbstractItemView *view, int key, Qt::KeyboardModifiers m
         Q_EMIT tabPressed();
         return true;
     }
+    if (key == Qt::Key_Escape)
+        Q_EMIT escapePressed();
     return false;
 }
 

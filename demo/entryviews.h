@@ -66,6 +66,7 @@ Q_SIGNALS:
     void menuRequested(const QPoint &globalPosition);
     void focused();
     void tabPressed();
+    void escapePressed();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -31,6 +31,15 @@ void FilterBar::open()
     selectAll();
 }
 
+void FilterBar::dismiss()
+{
+    if (!text().isEmpty()) {
+        clear();
+        apply();
+    }
+    hide();
+}
+
 void FilterBar::reset(const QString &text)
 {
     setText(text);
@@ -47,9 +56,7 @@ void FilterBar::keyPressEvent(QKeyEvent *event)
 {
     switch (event->key()) {
     case Qt::Key_Escape:
-        clear();
-        apply();
-        hide();
+        dismiss();
         Q_EMIT left();
         break;
     case Qt::Key_Return:

@@ -14,6 +14,7 @@ class FilterBar : public QLineEdit
 public:
     explicit FilterBar(QWidget *parent = nullptr);
 
+    void dismiss();                              ///< empties and hides it
     void open();                                 ///< shows it and gives it the focus
     void reset(const QString &text = QString()); ///< without an announcement; hidden unless there is a text
     QStringList patterns() const;

@@ -50,6 +50,8 @@ QString accessProblem(const Entry &directory)
 QString emptyListingReason(const Model &model)
 {
     const QString problem = accessProblem(model.actualRootEntry());
+    if (!problem.isEmpty() && !ArchiveMount::archiveOf(model.actualRootEntry()).isNull())
+        return problem; // names the archive
     if (!problem.isEmpty())
         return QCoreApplication::translate("ListingState", "This folder cannot be read: %1").arg(problem);
     if (model.nameFilters() != QStringList(QStringLiteral("*")))

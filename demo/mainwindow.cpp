@@ -110,6 +110,9 @@ bool MainWindow::configure(const Options &options)
 void MainWindow::openDirectory(const Entry &directory)
 {
     m_active->openDirectory(directory);
+    Pane *const other = otherPane();
+    if (other && other->directory().isNull())
+        other->openDirectory(directory);
 }
 
 void MainWindow::openInOtherPane(const Entry &directory)

@@ -81,6 +81,7 @@ void Pane::createBars()
             [this](const QStringList &patterns) { m_model->setNameFilters(patterns); });
     connect(m_filter, &FilterBar::left, this, &Pane::focusView);
     connect(m_views, &EntryViews::entryActivated, this, &Pane::activateEntry);
+    connect(m_views, &EntryViews::escapePressed, m_filter, &FilterBar::dismiss);
     connect(m_views, &EntryViews::focused, this, &Pane::activated);
 }
 

@@ -20,6 +20,7 @@ const QString geometryKey = QStringLiteral("geometry");
 const QString contentKey = QStringLiteral("content");
 const QString panelKey = QStringLiteral("panel");
 const QString panelShownKey = QStringLiteral("panelShown");
+const QString twoPanesKey = QStringLiteral("twoPanes");
 const QString modeKey = QStringLiteral("iconView");
 const QString tableSizeKey = QStringLiteral("tableIconSize");
 const QString iconSizeKey = QStringLiteral("iconViewIconSize");
@@ -37,6 +38,7 @@ void WindowLayout::save(const MainWindow &window, const QSplitter &content, cons
     m_file.setValue(contentKey, content.saveState());
     m_file.setValue(panelKey, panel.saveState());
     m_file.setValue(panelShownKey, window.actionSet()->sidePanel->isChecked());
+    m_file.setValue(twoPanesKey, window.otherPane() != nullptr);
     m_file.setValue(modeKey, views->mode() == EntryViews::Icons);
     m_file.setValue(tableSizeKey, views->entryIconSize(EntryViews::Table).toInt());
     m_file.setValue(iconSizeKey, views->entryIconSize(EntryViews::Icons).toInt());
@@ -55,4 +57,5 @@ void WindowLayout::restore(MainWindow *window, QSplitter *content, QSplitter *pa
         if (size.isValid())
             views->setEntryIconSize(mode, IconSize(size.toInt()));
     }
+    window->setTwoPanes(m_file.value(twoPanesKey).toBool());
 }

@@ -34,7 +34,7 @@ QString browserProgram()
 bool DesktopService::openWindow(const Entry &entry)
 {
     recallUnloader();
-    const bool isContainer = entry.isDir() || entry.isPlace();
+    const bool isContainer = entry.isDir() || entry.isPlace() || entry.isArchiveMountPoint();
     const Entry directory = entry.isNull() || isContainer ? entry : VFS::ptr()->parent(entry);
     const QString program = browserProgram();
     return !program.isEmpty() && !directory.isNull() && QProcess::startDetached(program, {directory.path()});
