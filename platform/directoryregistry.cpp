@@ -30,12 +30,12 @@ void DirectoryRegistry::beginListing(const QByteArray &directory, const Entry &e
     const Lock lock(m_mutex);
     Record &record = m_records[directory];
     ++record.listings;
-    QVector<ShownEntry> &shown = record.shown;
+    std::vector<ShownEntry> &shown = record.shown;
     const auto outdated = [&entry](const ShownEntry &other) {
         return other.entry.data() == entry.data() || (other.entry == entry && !isHeldElsewhere(other));
     };
     shown.erase(std::remove_if(shown.begin(), shown.end(), outdated), shown.end());
-    shown.append({entry, filters});
+    shown.push_back({entry, filters});
 }
 
 void DirectoryRegistry::setIdentity(const QByteArray &directory, const FileIdentity &identity)
@@ -61,6 +61,21 @@ void DirectoryRegistry::addChange(const QByteArray &directory, const QByteArray 
     const auto record = m_records.find(directory);
     if (record != m_records.end())
         record->changes.add(name, kind, now);
+}
+
+void DirectoryRegistry::addLinks(const QByteArray &directory, const QSet<QByteArray> &names)
+{
+    const Lock lock(m_mutex);
+    const auto record = m_records.find(directory);
+    if (record != m_records.end())
+        record->links.unite(names);
+}
+
+bool DirectoryRegistry::takeLink(const QByteArray &directory, const QByteArray &name)
+{
+    const Lock lock(m_mutex);
+    const auto record = m_records.find(directory);
+    return record != m_records.end() && record->links.remove(name);
 }
 
 void DirectoryRegistry::setMoved(const QByteArray &directory)

@@ -9,7 +9,7 @@
 #include <veskplatform/vfs.h>
 
 #include <QHash>
-#include <QVector>
+#include <QSet>
 
 #include <mutex>
 #include <vector>
@@ -28,8 +28,8 @@ struct ShownEntry
 struct DirectoryNews
 {
     QByteArray directory;
-    FileIdentity identity; // as it was last listed; without "exists" when nothing is known
-    QVector<ShownEntry> shown;
+    FileIdentity identity;         // as it was last listed; without "exists" when nothing is known
+    std::vector<ShownEntry> shown; // shares nothing with the registry, whose lock does not cover it
     std::vector<PendingChanges::Change> changes;
     bool moved = false; // it was deleted, or bears another path now
     bool reset = false; // it must be listed again, whatever the changes say
@@ -52,6 +52,10 @@ public:
     void reset(const QByteArray &directory);
     void resetAll();
 
+    /// The names in it that are symbolic links, as far as listings and changes told them.
+    void addLinks(const QByteArray &directory, const QSet<QByteArray> &names);
+    bool takeLink(const QByteArray &directory, const QByteArray &name); ///< whether it was one; forgets it
+
     /// Takes at most @p most changes whose time has come. @p nextDue: when to ask again, PendingChanges::never.
     std::vector<DirectoryNews> takeNews(qint64 now, size_t most, qint64 *nextDue);
 
@@ -64,7 +68,8 @@ public:
 private:
     struct Record
     {
-        QVector<ShownEntry> shown;
+        std::vector<ShownEntry> shown;
+        QSet<QByteArray> links;
         FileIdentity identity;
         PendingChanges changes;
         int listings = 0; // under way

@@ -19,11 +19,11 @@ constexpr quint32 watchedEvents = IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOV
     | IN_ATTRIB | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR | IN_EXCL_UNLINK;
 constexpr size_t bufferBytes = 64 * 1024;
 
-void closeDescriptor(int *fd)
+void closeDescriptor(std::atomic<int> *descriptor)
 {
-    if (*fd >= 0)
-        close(*fd);
-    *fd = -1;
+    const int fd = descriptor->exchange(-1); // first: somebody may still want to wake the thread
+    if (fd >= 0)
+        close(fd);
 }
 } // namespace
 

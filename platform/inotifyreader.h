@@ -57,8 +57,8 @@ private:
     void forget(const QByteArray &directory); // with the mutex
 
     InotifyHandler *const m_handler;
-    int m_inotify = -1; // -1 also when the system has no more instances: then nothing can be watched
-    int m_wakeUp = -1;
+    std::atomic<int> m_inotify{-1}; // -1 also when the system has no more instances: then nothing can be watched
+    std::atomic<int> m_wakeUp{-1};
     std::atomic<bool> m_stopping{false};
     mutable std::mutex m_mutex; // guards the tables, held while a watch is added so that its first event finds it there
     QHash<QByteArray, int> m_watches;

@@ -38,6 +38,16 @@ QString childPath(const QString &directory, const QByteArray &name)
     return directory.endsWith(QLatin1Char('/')) ? directory + text : directory + QLatin1Char('/') + text;
 }
 
+QSet<QByteArray> linksAmong(const EntryList &children)
+{
+    QSet<QByteArray> names;
+    for (const Entry &child : children) {
+        if (child.isSymLink())
+            names.insert(PathCodec::encode(child.fileName()));
+    }
+    return names;
+}
+
 /// Whether one of the changes in @p directory concerns the archive that @p shown is or lies in.
 bool hasArchiveChanged(const Entry &shown, const QString &directory, const std::vector<PendingChanges::Change> &changes)
 {
@@ -140,6 +150,8 @@ void LocalEntryWatcher::list(const Entry &entry, VFS::EntryChildFilters filters,
         rememberBadEntry(entry);
     if (m_cancel.loadRelaxed() != 0)
         return;
+    if (!directory.isEmpty())
+        m_registry.addLinks(directory, linksAmong(children));
     Q_EMIT dirListed(entry, filters, children);
     if (directory.isEmpty())
         return;
@@ -221,7 +233,9 @@ void LocalEntryWatcher::onDirectoryEvent(const QByteArray &directory, quint32 ma
     if (name.isEmpty())
         return; // of the directory itself: told by the one above it
     const auto add = [&](PendingChanges::Kind kind) { m_registry.addChange(directory, name, kind, m_clock.elapsed()); };
-    if (mask & (IN_CREATE | IN_MOVED_TO))
+    if (mask & IN_MOVED_TO)
+        add(PendingChanges::Moved);
+    else if (mask & IN_CREATE)
         add(PendingChanges::Created);
     else if (mask & (IN_DELETE | IN_MOVED_FROM))
         add(PendingChanges::Deleted);
@@ -296,7 +310,7 @@ void LocalEntryWatcher::tellDirectory(const DirectoryNews &news)
     uint kinds = 0;
     for (const PendingChanges::Change &change : news.changes) {
         kinds |= change.kinds;
-        tellChange(childPath(directory, change.name), change.kinds, archivesAsFiles);
+        tellChange(news.directory, change, archivesAsFiles);
     }
     for (const ShownEntry &shown : news.shown) {
         // New children belong to the directory, which nobody shows under a place.
@@ -308,12 +322,21 @@ void LocalEntryWatcher::tellDirectory(const DirectoryNews &news)
     }
 }
 
-void LocalEntryWatcher::tellChange(const QString &path, uint kinds, bool archivesAsFiles)
+void LocalEntryWatcher::tellChange(const QByteArray &directory, const PendingChanges::Change &change,
+                                   bool archivesAsFiles)
 {
-    if (kinds & PendingChanges::Deleted)
-        Q_EMIT entryDeleted(Entry(new DeferredEntryData(path)));
+    const uint kinds = change.kinds;
+    const QString path = childPath(PathCodec::decode(directory), change.name);
     const Entry entry = makeLocalEntry(path, archivesAsFiles);
-    if (kinds & PendingChanges::Created) {
+    const bool wasLink = m_registry.takeLink(directory, change.name);
+    if (entry.isSymLink())
+        m_registry.addLinks(directory, {change.name});
+    // What comes in one step may replace a node of another kind without anybody telling that this one is gone. A row
+    // does not change its kind. Only files come so often that they are worth the memory of what was a link before.
+    const bool mayReplace = (kinds & PendingChanges::Moved) == PendingChanges::Moved && !entry.isNull();
+    if ((kinds & PendingChanges::Deleted) || (mayReplace && (wasLink || entry.type() != Entry::File)))
+        Q_EMIT entryDeleted(Entry(new DeferredEntryData(path)));
+    if (kinds & (PendingChanges::Created | PendingChanges::Deleted)) { // two names may have been exchanged
         {
             const std::lock_guard<std::mutex> lock(m_badMutex);
             m_bad.remove(path);
@@ -322,8 +345,8 @@ void LocalEntryWatcher::tellChange(const QString &path, uint kinds, bool archive
             Q_EMIT entryCreated(entry);
         return;
     }
-    if (entry.isNull() || (kinds & PendingChanges::Deleted))
-        return; // its deletion is told, or is about to be
+    if (entry.isNull())
+        return; // its deletion is about to be told
     const bool otherwise = kinds & (PendingChanges::Changed | PendingChanges::AttributesChanged);
     if ((kinds & PendingChanges::Changed) || !otherwise)
         Q_EMIT entryChanged(entry);

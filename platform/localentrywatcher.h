@@ -62,7 +62,7 @@ private:
     void followFavorites(const ShownEntry &group, const QByteArray &directory);
     void tellReset(const DirectoryNews &news);
     void tellVanished(const DirectoryNews &news);
-    void tellChange(const QString &path, uint kinds, bool archivesAsFiles);
+    void tellChange(const QByteArray &directory, const PendingChanges::Change &change, bool archivesAsFiles);
 
     LocalVfs *const m_vfs;
     QElapsedTimer m_clock;

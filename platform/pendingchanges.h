@@ -26,6 +26,7 @@ public:
         Created = 2, ///< with Deleted: the name was freed and taken again
         Changed = 4,
         AttributesChanged = 8,
+        Moved = 32 | Created, ///< a creation: came under its name in one step, perhaps in place of something else
         Closed = 16 ///< after being open for writing; tells of writes through a mapping, which go unnoticed otherwise
     };
     struct Change

@@ -173,6 +173,9 @@ void LocalWatcherTest::tellsEachChangeOnce()
     tree.link("renamed", "new"); // another kind of node under the same name
     QVERIFY(log.tells({"-renamed", "+renamed"}));
     QCOMPARE(log.entries.last().type(), int(Entry::FileLink));
+    tree.add("file");
+    tree.rename("file", "renamed"); // in its place, in one step
+    QVERIFY(log.tells({"-file", "-renamed", "+renamed"}));
     tree.add("a.zip");
     QVERIFY(log.tells({"+a.zip"}));
     QCOMPARE(log.entries.last().type(), int(Entry::Archive));
