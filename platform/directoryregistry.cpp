@@ -78,12 +78,14 @@ bool DirectoryRegistry::takeLink(const QByteArray &directory, const QByteArray &
     return record != m_records.end() && record->links.remove(name);
 }
 
-void DirectoryRegistry::setMoved(const QByteArray &directory)
+void DirectoryRegistry::setMoved(const QByteArray &directory, bool unmounted)
 {
     const Lock lock(m_mutex);
     for (auto record = m_records.begin(); record != m_records.end(); ++record) {
-        if (record.key() == directory || isBelow(record.key(), directory))
+        if (record.key() == directory || isBelow(record.key(), directory)) {
             record->moved = true;
+            record->unmounted = record->unmounted || unmounted;
+        }
     }
 }
 
@@ -137,6 +139,7 @@ bool DirectoryRegistry::takeNewsOf(const QByteArray &directory, Record *record, 
     news->identity = record->identity;
     news->shown = record->shown;
     news->moved = std::exchange(record->moved, false);
+    news->unmounted = std::exchange(record->unmounted, false);
     news->reset = std::exchange(record->reset, false);
     return true;
 }

@@ -31,8 +31,9 @@ struct DirectoryNews
     FileIdentity identity;         // as it was last listed; without "exists" when nothing is known
     std::vector<ShownEntry> shown; // shares nothing with the registry, whose lock does not cover it
     std::vector<PendingChanges::Change> changes;
-    bool moved = false; // it was deleted, or bears another path now
-    bool reset = false; // it must be listed again, whatever the changes say
+    bool moved = false;     // it was deleted, or bears another path now
+    bool unmounted = false; // or is on a disk that is: nobody deleted it
+    bool reset = false;     // it must be listed again, whatever the changes say
 };
 
 /// The directories that were listed, who shows them, and what happened in them since.
@@ -48,7 +49,7 @@ public:
     void endListing(const QByteArray &directory);
 
     void addChange(const QByteArray &directory, const QByteArray &name, PendingChanges::Kind kind, qint64 now);
-    void setMoved(const QByteArray &directory); ///< also checks the directories below it
+    void setMoved(const QByteArray &directory, bool unmounted = false); ///< also checks the directories below it
     void reset(const QByteArray &directory);
     void resetAll();
 
@@ -74,6 +75,7 @@ private:
         PendingChanges changes;
         int listings = 0; // under way
         bool moved = false;
+        bool unmounted = false;
         bool reset = false;
     };
     bool takeNewsOf(const QByteArray &directory, Record *record, qint64 now, size_t most, DirectoryNews *news);

@@ -216,7 +216,7 @@ bool LocalEntryWatcher::rememberBadEntry(const Entry &entry)
 
 void LocalEntryWatcher::lookAgain(const QString &path)
 {
-    m_registry.setMoved(PathCodec::encode(path));
+    m_registry.setMoved(PathCodec::encode(path), true);
     const auto wake = [this] {
         if (m_running)
             m_reader.wake();
@@ -226,8 +226,8 @@ void LocalEntryWatcher::lookAgain(const QString &path)
 
 void LocalEntryWatcher::onDirectoryEvent(const QByteArray &directory, quint32 mask, const QByteArray &name)
 {
-    if (mask & (IN_DELETE_SELF | IN_MOVE_SELF | IN_IGNORED)) {
-        m_registry.setMoved(directory);
+    if (mask & (IN_DELETE_SELF | IN_MOVE_SELF | IN_IGNORED | IN_UNMOUNT)) {
+        m_registry.setMoved(directory, mask & IN_UNMOUNT);
         return;
     }
     if (name.isEmpty())
@@ -364,7 +364,8 @@ void LocalEntryWatcher::tellReset(const DirectoryNews &news)
 void LocalEntryWatcher::tellVanished(const DirectoryNews &news)
 {
     const QByteArray parent = parentDirectory(news.directory);
-    const bool toldByParent = m_reader.isWatching(parent) && FileIdentity::of(parent).exists; // not if that moved away
+    const bool toldByParent =
+        !news.unmounted && m_reader.isWatching(parent) && FileIdentity::of(parent).exists; // not if that moved away
     m_registry.remove(news.directory);
     unwatch(news.directory);
     const QString directory = PathCodec::decode(news.directory);
