@@ -26,8 +26,8 @@ const QString &everyName()
 
 bool asksNotToBeDisplayed(const Entry &entry)
 {
-    if (!entry.fileName().endsWith(QLatin1String(".desktop")))
-        return false;
+    if (!entry.fileName().endsWith(QLatin1String(".desktop")) || entry.absoluteFilePath().isEmpty())
+        return false; // the latter in an archive, where nothing can be read
     const VeskUIDesktopEntry desktopEntry = DesktopEntryPool::ptr()->desktopEntry(entry.absoluteFilePath());
     return desktopEntry.isValid() && !desktopEntry.isDisplayable(); // a broken one is a file like any other
 }

@@ -7,6 +7,7 @@
 #include "archiveproblems.h"
 #include "localarchivemounts.h"
 #include "localentrydata.h"
+#include "pathcodec.h"
 
 #include <QAtomicInt>
 #include <QTimer>
@@ -80,6 +81,11 @@ Entry ArchiveMount::archiveOf(const Entry &entry)
     if (const ArchiveNodeData *const node = ArchiveNodeData::of(entry))
         return makeLocalEntry(node->archive(), false, true);
     return entry.isArchiveMountPoint() ? entry : Entry();
+}
+
+bool ArchiveMount::isInMount(const QString &localPath)
+{
+    return ArchiveMountRoot::isBelowAny(PathCodec::encode(localPath));
 }
 
 void ArchiveMount::start(const Entry &entry)

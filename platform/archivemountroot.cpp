@@ -26,6 +26,11 @@ namespace
 constexpr char lockName[] = "lock";
 constexpr int randomDigits = 16;
 
+QByteArray baseDirectory()
+{
+    return xdgCacheHome() + "/vesk-fm/archives";
+}
+
 QByteArray freshName()
 {
     const QByteArray random = QByteArray::number(QRandomGenerator::system()->generate64(), 16);
@@ -70,8 +75,14 @@ int lockIn(int directory, int operation)
 }
 } // namespace
 
+bool ArchiveMountRoot::isBelowAny(const QByteArray &path)
+{
+    const QByteArray base = baseDirectory() + '/';
+    return path.startsWith(base) && isOurName(path.mid(base.size(), path.indexOf('/', base.size()) - base.size()));
+}
+
 ArchiveMountRoot::ArchiveMountRoot()
-    : m_base(xdgCacheHome() + "/vesk-fm/archives")
+    : m_base(baseDirectory())
     , m_name(freshName())
 {
 }

@@ -21,6 +21,9 @@ public:
 
     QByteArray path() const { return m_base + '/' + m_name; } ///< where it is, or is going to be
 
+    /// Whether a path lies in the directory of a process.
+    static bool isBelowAny(const QByteArray &path);
+
     /// Makes the directory, if it is not there, and removes those of processes that are gone.
     bool make();
     bool isMade() const { return m_directory >= 0; }

@@ -48,7 +48,8 @@ const QString &unknownIcon()
 
 bool isDesktopFile(const Entry &entry)
 {
-    return entry.isFile() && entry.fileName().endsWith(QLatin1String(".desktop"));
+    return entry.isFile() && entry.fileName().endsWith(QLatin1String(".desktop"))
+        && !entry.absoluteFilePath().isEmpty(); // in an archive there is nothing to be read
 }
 
 bool isChildOfHome(const Entry &entry)
@@ -206,12 +207,13 @@ bool isDeadLink(const Entry &entry)
 {
     if (!entry.isSymLink())
         return false;
+    if (entry.localPath().isEmpty()) // only the VFS knows what is there
+        return VFS::ptr()->symLinkTargetEntry(entry).isNull();
     const QString target = entry.symLinkTarget();
     // A relative target counts from the directory that holds the link.
     const QString base = VFS::parentDirPath(entry.localPath());
-    return !QFileInfo::exists(base.isEmpty() || QFileInfo(target).isAbsolute() || target.isEmpty()
-                                  ? target
-                                  : base + QLatin1Char('/') + target);
+    return !QFileInfo::exists(QFileInfo(target).isAbsolute() || target.isEmpty() ? target
+                                                                                 : base + QLatin1Char('/') + target);
 }
 
 void takeFile(EntryBaseState &state, const Entry &entry)

@@ -57,16 +57,23 @@ CopyOperation::CopyOperation(Kind kind, const QString &stamp, const QStringList 
 
 void CopyOperation::run()
 {
+    ArchiveSources sources(&progress());
     EntryList present;
     for (const QString &path : m_sources) {
-        const Entry source = VFS::ptr()->entry(path);
-        if (note(source.isNull() ? Result::NotFound : Result::Success))
+        const Entry source = sources.find(path);
+        if (progress().isCancelled())
+            note(Result::Cancelled);
+        else if (m_kind == Move && ArchiveMount::isInArchive(source))
+            note(Result::NotSupported); // there it would have to go
+        else if (note(source.isNull() ? Result::NotFound : Result::Success))
             present.append(source);
     }
     if (present.isEmpty()) {
         note(m_sources.isEmpty() ? Result::NotFound : Result::Success);
         return;
     }
+    if (!note(leadsIntoArchive(diskBytes(m_destination)) ? Result::NotSupported : Result::Success))
+        return;
     PathAnalyzer analyzer(present, entryOfPath(m_destination));
     if (!analyzer.resolve()) {
         note(resultOfAnalysis(analyzer.error()));
@@ -80,7 +87,7 @@ void CopyOperation::run()
             note(Result::Cancelled);
         if (isHopeless())
             return;
-        note(transfer(pair, &target));
+        note(transfer(pair, &sources, &target));
         if (!m_countsBytes)
             progress().add(Progress::unitsPerNode);
     }
@@ -104,12 +111,15 @@ void CopyOperation::setTotal(PathAnalyzer *analyzer)
         progress().setTotal(analyzer->pairs().size() * Progress::unitsPerNode);
 }
 
-Result CopyOperation::transfer(const PathAnalyzerPair &pair, DiskPlace *target)
+Result CopyOperation::transfer(const PathAnalyzerPair &pair, ArchiveSources *sources, DiskPlace *target)
 {
     if (pair.conflict() == PathAnalyzerPair::IntoItself)
         return Result::IntoItself;
+    QString sourcePath;
     DiskPlace source;
-    Result result = DiskPlace::open(diskBytes(pair.source().path()), &source);
+    Result result = sources->locate(pair.source(), &sourcePath);
+    if (result == Result::Success)
+        result = DiskPlace::open(diskBytes(sourcePath), &source);
     if (result == Result::Success)
         result = openTarget(diskBytes(pair.targetPath()), target);
     if (result != Result::Success)
@@ -123,8 +133,9 @@ Result CopyOperation::transfer(const PathAnalyzerPair &pair, DiskPlace *target)
     }
     const FreeName name =
         isInPlace ? FreeName::forCopyOf(target->name, isDirectory) : FreeName::like(target->name, isDirectory);
+    const mode_t addedMode = ArchiveMount::isInMount(sourcePath) ? S_IWUSR : 0; // there everything is read-only
     result = m_kind == Copy
-        ? copy(source, *target, name, &target->name)
+        ? copy(source, *target, name, addedMode, &target->name)
         : TreeMover(&progress())
               .move(source.directory.get(), source.name, target->directory.get(), name, &target->name);
     if (result == Result::Success)
@@ -132,10 +143,12 @@ Result CopyOperation::transfer(const PathAnalyzerPair &pair, DiskPlace *target)
     return result;
 }
 
-Result CopyOperation::copy(const DiskPlace &source, const DiskPlace &target, const FreeName &name, QByteArray *taken)
+Result CopyOperation::copy(const DiskPlace &source, const DiskPlace &target, const FreeName &name, mode_t addedMode,
+                           QByteArray *taken)
 {
     const QByteArray part = Part::freshName();
     TreeCopier copier(&progress());
+    copier.setAddedMode(addedMode);
     Result result = copier.copy(source.directory.get(), source.name, target.directory.get(), part);
     if (result != Result::Success)
         return result;

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "archivesources.h"
 #include "freename.h"
 #include "operation.h"
 
@@ -24,8 +25,9 @@ protected:
 
 private:
     void setTotal(VeskFM::PathAnalyzer *analyzer);
-    Result transfer(const VeskFM::PathAnalyzerPair &pair, DiskPlace *target);
-    Result copy(const DiskPlace &source, const DiskPlace &target, const FreeName &name, QByteArray *taken);
+    Result transfer(const VeskFM::PathAnalyzerPair &pair, ArchiveSources *sources, DiskPlace *target);
+    Result copy(const DiskPlace &source, const DiskPlace &target, const FreeName &name, mode_t addedMode,
+                QByteArray *taken);
 
     const Kind m_kind;
     const QStringList m_sources;

@@ -3,6 +3,8 @@
 
 #include "diskpath.h"
 
+#include "archivesources.h"
+
 #include <veskplatform/newentry.h>
 #include <veskplatform/vfs.h>
 
@@ -74,7 +76,10 @@ Result DiskPlace::openDirectory(const QByteArray &path, DiskPlace *place)
     place->path = path;
     place->name.clear();
     place->directory = openForLookup(path);
-    return place->directory ? Result::Success : resultOfError(errno);
+    if (place->directory)
+        return Result::Success;
+    const int error = errno;
+    return error == ENOTDIR && leadsIntoArchive(path) ? Result::NotSupported : resultOfError(error);
 }
 
 QByteArray DiskPlace::fullPath() const

@@ -89,7 +89,7 @@ Result TreeCopier::copyFile(int fromParent, const char *from, const struct stat 
     }
     Result result = m_contents.copy(in.get(), facts, out.get());
     if (result == Result::Success)
-        result = copyMetadata(in.get(), facts, out.get());
+        result = finish(in.get(), facts, out.get());
     Descriptor closing = isTop ? Descriptor(dup(out.get())) : std::move(out);
     if (!closing.close() && result == Result::Success) // some file systems tell only now that the disk is full
         result = resultOfError(errno);
@@ -120,7 +120,13 @@ Result TreeCopier::copyDirectory(int fromParent, const char *from, const struct 
         m_top = std::move(out);
     }
     const Result result = copyChildren(in.get(), directory, path, depth);
-    return result == Result::Success ? copyMetadata(in.get(), known, directory) : result;
+    return result == Result::Success ? finish(in.get(), known, directory) : result;
+}
+
+Result TreeCopier::finish(int from, struct stat facts, int to) const
+{
+    facts.st_mode |= m_addedMode;
+    return copyMetadata(from, facts, to);
 }
 
 Result TreeCopier::copyChildren(int from, int to, const QByteArray &path, int depth)

@@ -22,6 +22,9 @@ public:
     /// @param digest   borrowed, may be null; gains what the source looked like when it was read
     explicit TreeCopier(Progress *progress, TreeDigest *digest = nullptr);
 
+    /// Permissions that all copies of files and directories get beside those of their originals.
+    void setAddedMode(mode_t mode) { m_addedMode = mode; }
+
     /// @param part a name in @p toParent where nothing is
     Result copy(int fromParent, const QByteArray &from, int toParent, const QByteArray &part);
 
@@ -38,6 +41,7 @@ private:
                          const QByteArray &path, int depth);
     Result copyChildren(int from, int to, const QByteArray &path, int depth);
     Result copyLink(int fromParent, const char *from, const struct stat &facts, int toParent, const char *to);
+    Result finish(int from, struct stat facts, int to) const;
     Result copySpecial(const struct stat &facts, int toParent, const char *to);
     bool linkToEarlierCopy(const struct stat &facts, int toParent, const char *to);
     Result syncNode(int parent, const char *name, bool isDirectory);
@@ -46,6 +50,7 @@ private:
     Progress *const m_progress;
     TreeDigest *const m_digest;
     FileContents m_contents;
+    mode_t m_addedMode = 0;
     Descriptor m_top;                   // the part, open and held while it is worked on
     NodeId m_topId;                     // of a directory; met again below the source it would be copied forever
     QHash<NodeId, QByteArray> m_linked; // files with several names -> the path of their copy below the top

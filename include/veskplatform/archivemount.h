@@ -39,6 +39,10 @@ public:
     /// The archive that @p entry is or lies in, as a file of the disk; null when it is none and lies in none.
     static Entry archiveOf(const Entry &entry);
 
+    /// Whether a path of the disk lies in a mount, of this process or of another one: nothing there stays for long, and
+    /// everything is read-only. Looks at nothing.
+    static bool isInMount(const QString &localPath);
+
     /// Mounts the archive that @p entry is or lies in, and returns at once; one finished() answers, unless another start(),
     /// cancel() or the destructor comes first. Lets go of what was mounted before.
     void start(const Entry &entry);

@@ -24,6 +24,18 @@ ArchiveError writingError()
     return errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? ArchiveError::NoSpace : ArchiveError::CannotWrite;
 }
 
+/// Of a file or directory; "now" where the archive does not tell.
+struct Times
+{
+    timespec values[2] = {{0, UTIME_OMIT}, {0, UTIME_NOW}};
+
+    explicit Times(qint64 modifiedMs)
+    {
+        if (modifiedMs > 0)
+            values[1] = {time_t(modifiedMs / 1000), long(modifiedMs % 1000) * 1000000};
+    }
+};
+
 bool writeFully(int file, const char *data, qint64 size)
 {
     while (size > 0) {
@@ -94,6 +106,7 @@ ArchiveError Extractor::makeFile(MemberReader *reader, int node)
     if (file < 0)
         return writingError();
     ArchiveError error = copyContent(reader, file, wanted.size);
+    futimens(file, Times(wanted.modifiedMs).values); // not every file system keeps all of them
     if (error == ArchiveError::None && fchmod(file, wanted.isExecutable ? closedProgram : closedFile) != 0)
         error = ArchiveError::CannotWrite;
     if (close(file) != 0 && error == ArchiveError::None)
@@ -141,9 +154,12 @@ ArchiveError Extractor::makeLinks()
 ArchiveError Extractor::closeDirectories()
 {
     for (auto index = m_order.rbegin(); index != m_order.rend(); ++index) {
-        const bool isRoot = *index == 0;
-        if (m_tree.nodes()[size_t(*index)].kind == MemberTree::Dir
-            && fchmodat(m_directory, isRoot ? "." : m_tree.path(*index).constData(), closedDirectory, 0) != 0)
+        const MemberTree::Node &node = m_tree.nodes()[size_t(*index)];
+        const QByteArray path = *index == 0 ? QByteArray(".") : m_tree.path(*index);
+        if (node.kind != MemberTree::Dir)
+            continue;
+        utimensat(m_directory, path.constData(), Times(node.modifiedMs).values, 0);
+        if (fchmodat(m_directory, path.constData(), closedDirectory, 0) != 0)
             return ArchiveError::CannotWrite;
     }
     return ArchiveError::None;

@@ -24,7 +24,8 @@ struct ArchiveMember
     Kind kind = File;
     qint64 size = 0; ///< bytes
     bool isExecutable = false;
-    QByteArray target; ///< of a link: a path from its directory, of a hard link from the top of the archive
+    qint64 modifiedMs = 0; ///< since 1970; 0 when it is not told
+    QByteArray target;     ///< of a link: a path from its directory, of a hard link from the top of the archive
 };
 
 /// Reads the members of an archive from the first to the last, without going back.

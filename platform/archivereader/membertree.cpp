@@ -53,6 +53,7 @@ ArchiveError MemberTree::add(const ArchiveMember &member, int number)
     Node node;
     node.name = names.takeLast();
     node.isExecutable = member.isExecutable;
+    node.modifiedMs = member.modifiedMs;
     switch (member.kind) {
     case ArchiveMember::File:
         node.kind = File;
@@ -91,6 +92,8 @@ ArchiveError MemberTree::put(int parent, const Node &node)
     int index = m_children.value(Key(parent, node.name), -1);
     if (index >= 0) {
         Node &former = m_nodes[size_t(index)];
+        if (former.kind == Dir && node.kind == Dir && node.modifiedMs != 0)
+            former.modifiedMs = node.modifiedMs; // it was there already as the way to something
         if (former.kind == Dir || (former.kind == Link && node.kind == Dir))
             return ArchiveError::None;
         if (node.hardLink >= 0 && follow(node.hardLink) == index)

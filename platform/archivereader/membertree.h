@@ -33,6 +33,7 @@ public:
         bool isExecutable = false;
         bool isRefused = false;
         qint64 size = 0;
+        qint64 modifiedMs = 0;
         QByteArray link;   // of a link
         int target = -1;   // of a link: the node that it leads to
         int hardLink = -1; // the file whose content it shares

@@ -8,6 +8,7 @@
 
 #include <KArchiveDirectory>
 #include <KArchiveFile>
+#include <QDateTime>
 
 #include <sys/stat.h>
 
@@ -64,6 +65,8 @@ bool SevenZipReader::next(ArchiveMember *member)
     m_left = 0;
     *member = ArchiveMember();
     member->name = found.path;
+    const QDateTime modified = found.entry->date();
+    member->modifiedMs = modified.isValid() ? modified.toMSecsSinceEpoch() : 0;
     const mode_t mode = found.entry->permissions();
     if (found.entry->isDirectory()) {
         member->kind = ArchiveMember::Dir;

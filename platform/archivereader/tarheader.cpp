@@ -60,6 +60,12 @@ bool TarHeader::size(qint64 *size) const
     return number(124, 12, size) && *size >= 0;
 }
 
+qint64 TarHeader::modifiedSec() const
+{
+    qint64 seconds = 0;
+    return number(136, 12, &seconds) ? seconds : 0;
+}
+
 qint64 TarHeader::sparseSize() const
 {
     qint64 size = 0;

@@ -25,6 +25,7 @@ public:
     QByteArray linkName() const;
     int mode() const;              ///< permission bits; 0 when the field is no number
     bool size(qint64 *size) const; ///< false for a field that is no size
+    qint64 modifiedSec() const;    ///< 0 when the field is no number
     qint64 sparseSize() const;     ///< of a file of the type 'S', with its holes
     enum SparseMapPart { InHeader = 482, InMap = 504 };
     bool isSparseMapContinued(SparseMapPart part) const { return m_block[part] != '\0'; }

@@ -14,6 +14,8 @@ namespace
 constexpr qint64 longestPadding = 1024 * 1024;   // of an archive with nothing in it
 constexpr qint64 longestExtension = 1024 * 1024; // names are shorter, and nothing else in it is kept
 
+constexpr double latestSec = 1e11; // in pax headers: the year 5138
+
 qint64 paddingOf(qint64 size)
 {
     return (TarHeader::blockSize - size % TarHeader::blockSize) % TarHeader::blockSize;
@@ -162,6 +164,9 @@ bool TarReader::fillMember(const Extension &extension, ArchiveMember *member)
     member->target = records.value("linkpath", member->target);
     member->kind = kindOf(m_header.type(), member->name);
     member->isExecutable = m_header.mode() & 0111;
+    member->modifiedMs = m_header.modifiedSec() * 1000;
+    if (records.contains("mtime"))
+        member->modifiedMs = qint64(qBound(0.0, records.value("mtime").toDouble(), latestSec) * 1000);
     if (records.contains("size")) {
         bool isNumber = false;
         m_left = records.value("size").toLongLong(&isNumber);

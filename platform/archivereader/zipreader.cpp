@@ -5,6 +5,7 @@
 
 #include "unpackingsource.h"
 
+#include <QDateTime>
 #include <QtEndian>
 
 #include <sys/stat.h>
@@ -38,6 +39,8 @@ constexpr quint16 encryptedDirectory = 0x2000;
 constexpr quint16 zip64Extra = 0x0001;
 constexpr quint16 unicodePathExtra = 0x7075;
 
+constexpr quint16 timesExtra = 0x5455;
+
 quint16 u16(const char *data)
 {
     return qFromLittleEndian<quint16>(data);
@@ -61,6 +64,18 @@ QByteArray extraField(const QByteArray &extra, quint16 kind)
         at += 4 + size;
     }
     return {};
+}
+
+/// Of a DOS time stamp, in whatever time zone it was written, or of what other archivers add in UTC.
+qint64 modifiedMs(quint16 time, quint16 date, const QByteArray &extra)
+{
+    const QByteArray times = extraField(extra, timesExtra);
+    constexpr int timesSize = 5;
+    if (times.size() >= timesSize && times.at(0) & 1)
+        return qint64(qint32(u32(times.constData() + 1))) * 1000;
+    const QDate day(1980 + (date >> 9), (date >> 5) & 0xF, date & 0x1F);
+    const QTime clock(time >> 11, (time >> 5) & 0x3F, (time & 0x1F) * 2);
+    return day.isValid() && clock.isValid() ? QDateTime(day, clock).toMSecsSinceEpoch() : 0;
 }
 
 std::unique_ptr<ByteSource> unpacker(int method, ByteSource *packed)
@@ -170,6 +185,7 @@ bool ZipReader::next(ArchiveMember *member)
     *member = ArchiveMember();
     member->name = name;
     member->isExecutable = mode & 0111;
+    member->modifiedMs = modifiedMs(u16(header + 12), u16(header + 14), extra);
     if (name.endsWith('/') || S_ISDIR(mode))
         member->kind = ArchiveMember::Dir;
     else if (S_ISLNK(mode))

@@ -3,6 +3,7 @@
 
 #include "diskpath.h"
 
+#include <veskplatform/archivemount.h>
 #include <veskplatform/entrylist.h>
 #include <veskplatform/vfs.h>
 
@@ -14,7 +15,7 @@ namespace VeskFM
 
 QByteArray diskPath(const Entry &entry)
 {
-    if (entry.isNull())
+    if (entry.isNull() || ArchiveMount::isInArchive(entry))
         return {};
     const QString localPath = entry.localPath();
     if (!localPath.isEmpty())
@@ -31,7 +32,7 @@ QByteArray diskPath(const Entry &entry)
 
 bool isOnDisk(const Entry &entry)
 {
-    return !entry.localPath().isEmpty() || !diskPath(entry).isEmpty();
+    return !ArchiveMount::isInArchive(entry) && (!entry.localPath().isEmpty() || !diskPath(entry).isEmpty());
 }
 
 } // namespace VeskFM

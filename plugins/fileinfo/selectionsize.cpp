@@ -6,6 +6,9 @@
 #include "diskpath.h"
 #include "kernelfilesystem.h"
 
+#include <veskplatform/archivemount.h>
+#include <veskplatform/vfs.h>
+
 #include <cstring>
 
 #include <fcntl.h>
@@ -42,6 +45,11 @@ bool SelectionSize::add(const EntryList &entries)
     for (const Entry &entry : entries) {
         if (isStopped())
             return false;
+        if (ArchiveMount::isInArchive(entry)) {
+            if (!addFromArchive(entry))
+                return false;
+            continue;
+        }
         const QByteArray path = diskPath(entry);
         struct stat found = {};
         if (path.isEmpty() || lstat(path.constData(), &found) != 0)
@@ -57,6 +65,24 @@ bool SelectionSize::add(const EntryList &entries)
             return false;
     }
     return !isStopped();
+}
+
+/// Only the VFS knows what lies there. Returns false when stopped.
+bool SelectionSize::addFromArchive(const Entry &entry)
+{
+    EntryList pending(entry);
+    while (!pending.isEmpty()) {
+        if (isStopped())
+            return false;
+        const Entry next = pending.takeLast();
+        const bool isDirectory = next.isDir() && !next.isSymLink();
+        ++(isDirectory ? m_directories : m_files);
+        if (isDirectory)
+            pending.append(VFS::ptr()->childs(next, VFS::RecursiveListing, nullptr));
+        else if (!next.isSymLink())
+            m_bytes += next.fileSize();
+    }
+    return true;
 }
 
 /// Counts a node unless it has been counted before. Returns whether it counts.

@@ -50,6 +50,7 @@ private:
     bool count(const struct stat &found, bool selected);
     void enter(int parent, const char *name);
     bool walk();
+    bool addFromArchive(const Entry &entry);
 
     const bool *const m_running; // the caller's
     qint64 m_bytes = 0;
