@@ -64,7 +64,7 @@ bool WalkedEntryData::is(EntryTrait trait) const
         return known().is(trait);
     case EntryTrait::File:
     case EntryTrait::Dir:
-        return isLink() ? looked().is(trait) : known().is(trait);
+        return mayBeArchive() ? looked().is(trait) : known().is(trait);
     case EntryTrait::Exists:
     case EntryTrait::Executable:
         return looked().is(trait);

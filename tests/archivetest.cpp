@@ -4,16 +4,25 @@
 #include "testarchive.h"
 #include "testtree.h"
 
+#include <platform/archiveerror.h>
 #include <veskplatform/archivemount.h>
 #include <veskplatform/archivemountsmanagerproxy.h>
 #include <veskplatform/archiveproblem.h>
 
 #include <QtTest>
 
-#include <atomic>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <thread>
 
+#include <fixedplaces.h>
+
 using namespace VeskFM;
+
+Q_DECLARE_METATYPE(VeskFM::ArchiveError)
 
 namespace
 {
@@ -22,15 +31,14 @@ EntryList listed(const Entry &directory, VFS::EntryChildFilters filters = VFS::P
     return VFS::ptr()->childs(directory, filters, nullptr);
 }
 
-/// All below, each with its path from there, its kind, and its size or what it leads to.
+/// All below, each with its path from there, and its size or what it leads to.
 QStringList described(const Entry &directory, const QString &above = {})
 {
     QStringList lines;
     for (const Entry &entry : listed(directory)) {
         const QString path = above + entry.fileName();
-        lines += entry.isSymLink() ? path + (entry.isDir() ? " => " : " -> ") + entry.symLinkTarget().section('/', -1)
-            : entry.isDir()        ? path + '/'
-                                   : path + ' ' + QString::number(entry.fileSize());
+        const QString link = entry.isSymLink() ? " -> " + entry.symLinkTarget().section('/', -1) : QString();
+        lines += path + link + (entry.isDir() ? "/" : ' ' + QString::number(entry.fileSize()));
         if (entry.isDir() && !entry.isSymLink())
             lines += described(entry, path + '/');
     }
@@ -38,12 +46,29 @@ QStringList described(const Entry &directory, const QString &above = {})
     return lines;
 }
 
-QByteArray contentOf(const Entry &entry)
+QByteArray contentOf(const QString &path)
 {
-    QFile file(entry.localPath());
+    QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+QString mountsDirectory()
+{
+    return qgetenv("XDG_CACHE_HOME") + "/vesk-fm/archives/";
+}
+
+bool isAnythingLeft(const QString &pattern)
+{
+    return QDirIterator(mountsDirectory(), {pattern}, QDir::Dirs, QDirIterator::Subdirectories).hasNext();
+}
+
+int runReader(const QStringList &arguments)
+{
+    QProcess reader;
+    reader.setStandardOutputFile(QProcess::nullDevice());
+    reader.start(VESKFM_ARCHIVE_READER, arguments);
+    return reader.waitForFinished() && reader.exitStatus() == QProcess::NormalExit ? reader.exitCode() : -1;
+}
 } // namespace
 
 class ArchiveTest : public QObject
@@ -51,9 +76,37 @@ class ArchiveTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void removesMountsOfDeadProcesses();
     void showsWhatWasPacked_data();
     void showsWhatWasPacked();
+    void leavesOutWhatClimbs();
+    void refuses_data();
+    void refuses();
+    void survivesDamage_data() { showsWhatWasPacked_data(); }
+    void survivesDamage();
+    void givesUpWhenCancelled();
+    void countsMounts();
+    void servesManyThreads();
 };
+
+void ArchiveTest::removesMountsOfDeadProcesses() // first: only the first mount of a process looks for them
+{
+    const QString base = mountsDirectory();
+    const QString dead = base + "1-0123456789abcdef";
+    const QString live = base + "2-0123456789abcdef";
+    for (const QString &directory : {dead + "/mount/dir", live + "/mount", base + "2-not-ours"})
+        QVERIFY(QDir().mkpath(directory));
+    QVERIFY(QFile(dead + "/mount").setPermissions(QFile::ReadOwner));
+    const int lock = open(QFile::encodeName(live + "/lock").constData(), O_RDWR | O_CREAT, 0600);
+    QVERIFY(flock(lock, LOCK_EX) == 0);
+    TestTree tree({"precious/file"});
+    QVERIFY(QFile::link(tree.path("precious"), base + "3-0123456789abcdef"));
+    packArchive(tree.path("a.zip"), {{"x", ""}});
+    QVERIFY(ArchiveMount().mount(tree.entry("a.zip"), nullptr));
+    QVERIFY(!QFile::exists(dead) && QFile::exists(live + "/mount") && QFile::exists(base + "2-not-ours"));
+    QVERIFY(QFile::exists(tree.path("precious/file")));
+    close(lock);
+}
 
 void ArchiveTest::showsWhatWasPacked_data()
 {
@@ -67,10 +120,9 @@ void ArchiveTest::showsWhatWasPacked()
     QFETCH(QString, suffix);
     TestTree tree;
     const QString path = tree.path("a." + suffix);
-    const QByteArray large(300000, 'x');
     packArchive(path,
                 {{"top.txt", "top"},
-                 {"d/inner/deep", large},
+                 {"d/inner/deep", QByteArray(300000, 'x')},
                  {"empty/", {}, '5'},
                  {"d/link", "inner", '2'},
                  {"nested.zip", "not entered"},
@@ -78,18 +130,16 @@ void ArchiveTest::showsWhatWasPacked()
     const VFS &vfs = *VFS::ptr();
     const Entry archive = vfs.entry(path);
     QCOMPARE(described(archive),
-             QStringList({".hidden 0", "d/", "d/inner/", "d/inner/deep 300000", "d/link => inner", "empty/",
+             QStringList({".hidden 0", "d/", "d/inner/", "d/inner/deep 300000", "d/link -> inner/", "empty/",
                           "nested.zip 11", "top.txt 3"}));
-    QCOMPARE(archiveProblem(archive), QString());
-    QVERIFY(!archive.isFile() && archive.isArchiveMountPoint() && archive.localPath() == path);
+    QVERIFY(archiveProblem(archive).isEmpty() && !archive.isFile() && archive.localPath() == path);
 
     const Entry deep = vfs.entry(path + "/d/link/deep");
     QCOMPARE(deep.path(), path + "/d/link/deep");
-    QVERIFY(deep.isFile() && deep.isExists() && deep.localPath().isEmpty());
+    QVERIFY(deep.isFile() && deep.isExists() && deep.localPath().isEmpty() && ArchiveMount::isInArchive(deep));
     QCOMPARE(vfs.parent(vfs.parent(vfs.parent(deep))), archive);
     QCOMPARE(vfs.pathEntryList(deep, archive).size(), 4);
-    QCOMPARE(vfs.sibling(archive, archive.fileName()), archive);
-    QCOMPARE(vfs.entry(path + "/d/inner/../link/"), vfs.entry(path + "/d/link"));
+    QCOMPARE(vfs.entry(path + "/d/inner/../link/"), vfs.sibling(vfs.entry(path + "/d/inner"), "link"));
     QCOMPARE(vfs.symLinkTargetEntry(vfs.entry(path + "/d/link")), vfs.entry(path + "/d/inner"));
     QVERIFY(vfs.isEntryExists(deep) && vfs.entry(path + "/d/none").isNull() && vfs.entry(path + "/top.txt/x").isNull());
     QVERIFY(vfs.entry(path + "/nested.zip").type() == Entry::File && vfs.entry(path + "/.hidden").isHidden());
@@ -99,12 +149,179 @@ void ArchiveTest::showsWhatWasPacked()
 
     ArchiveMount mount;
     QVERIFY2(mount.mount(deep, nullptr), qPrintable(mount.problem()));
-    QCOMPARE(contentOf(deep), large);
-    QCOMPARE(contentOf(mount.localEntry(vfs.entry(path + "/top.txt"))), QByteArray("top"));
+    QCOMPARE(contentOf(deep.localPath()), QByteArray(300000, 'x'));
+    QVERIFY(!(QFile(deep.localPath()).permissions() & QFile::WriteOwner) && ArchiveMount::isInMount(deep.localPath()));
     QCOMPARE(described(mount.localEntry(archive)), described(archive));
-    QVERIFY(!(QFile(deep.localPath()).permissions() & QFile::WriteOwner));
-    QCOMPARE(vfs.entriesFromUrls(vfs.urlsFromEntries({deep, archive})),
-             EntryList({vfs.entry(path + "/d/inner/deep"), archive}));
+    const EntryList urlsOf({vfs.entry(path + "/d/inner/deep"), archive});
+    QCOMPARE(vfs.entriesFromUrls(vfs.urlsFromEntries(urlsOf)), urlsOf);
+}
+
+void ArchiveTest::leavesOutWhatClimbs()
+{
+    TestTree tree;
+    const Entry archive = tree.add("a.tar",
+                                   tarOf({{"ok/file", "x"},
+                                          {"/abs", "x"},
+                                          {"../up", "x"},
+                                          {"a/../../b", "x"},
+                                          {"out", "../..", '2'},
+                                          {"root", "/etc", '2'},
+                                          {"in", "ok", '2'},
+                                          {"in/through", "x"},
+                                          {"hard", "../../etc/passwd", '1'},
+                                          {"self/s", "../self", '2'},
+                                          {"via", "self/s/../..", '2'},
+                                          {"fifo", "", '6'},
+                                          {"device", "", '3'},
+                                          {"was file", "x"},
+                                          {"was file/y", "y"},
+                                          {"twice", "1"},
+                                          {"twice", "22"},
+                                          {"other name", "twice", '1'},
+                                          {"caf\xe9", "x"},
+                                          {"", "x"},
+                                          {"./", "", '5'}}));
+    const QStringList expected({"caf\U0010FFE9 1", "in -> ok/", "ok/", "ok/file 1", "other name 2", "self/",
+                                "self/s -> self/", "twice 2", "was file/", "was file/y 1"});
+    QCOMPARE(described(archive), expected);
+    ArchiveMount mount;
+    QVERIFY2(mount.mount(archive, nullptr), qPrintable(mount.problem()));
+    QCOMPARE(described(mount.localEntry(archive)), expected);
+    struct stat facts = {};
+    QVERIFY(stat(QFile::encodeName(mount.localEntry(archive).localPath() + "/twice"), &facts) == 0);
+    QVERIFY((facts.st_mode & 07777) == 0555 && facts.st_nlink == 2);
+}
+
+void ArchiveTest::refuses_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<ArchiveError>("error");
+    QTest::addColumn<QString>("words"); // what the user is told, or a limit to be broken
+    TestTree tree;
+    packArchive(tree.path("z.zip"), {{"secret", "x"}});
+    QByteArray zip = contentOf(tree.path("z.zip"));
+    zip[zip.indexOf("PK\1\2") + 8] = 1;
+    QTest::newRow("encrypted zip") << zip << ArchiveError::Encrypted << "a.zip is encrypted";
+    QTest::newRow("encrypted 7z") // what it says of the one file in it is packed
+        << QByteArray::fromBase64(
+               "N3q8ryccAASX4HwATwAAAAAAAAAgAAAAAAAAAJQ4tDpzZWNyZXRzZWNyZXRzZWNyAACBMweuD87ysgwHyEOBKn"
+               "lcjn3h9o3okp4HIhYKGU2jhBtT5adTIY3NbAL616zUkO/0+c81zOurn//2YpsAFwYQAQk/AAcLAQABIwMB"
+               "AQVdAAABAAw+CgFGdaX7AAA=")
+        << ArchiveError::Encrypted << "a.zip is encrypted";
+    QTest::newRow("no archive") << QByteArray("text") << ArchiveError::Damaged << "is damaged, or is no archive";
+    QTest::newRow("zeros") << QByteArray(2 << 20, '\0') << ArchiveError::Damaged << "is damaged";
+    QTest::newRow("a size that lies") << tarOf({{"a", "x"}}, 8LL << 30) << ArchiveError::Damaged << "is damaged";
+    const TestMember deep{"long", QByteArray("d/").repeated(10000) + "x", 'L'};
+    QTest::newRow("deep") << tarOf({deep, {"d", "x"}}) << ArchiveError::TooDeep << "nested too deeply";
+    const TestMember longName{"long", QByteArray(300, 'n'), 'L'};
+    QTest::newRow("name") << tarOf({longName, {"n", "x"}}) << ArchiveError::NameTooLong << "too long";
+    const QByteArray three = tarOf({{"a", "1"}, {"b", "2"}, {"c", "3"}});
+    QTest::newRow("many entries") << three << ArchiveError::TooManyEntries << "--entries=2";
+    QTest::newRow("much text") << three << ArchiveError::TooManyEntries << "--text=2";
+    packArchive(tree.path("b.tar.gz"), {{"zeros", QByteArray(4 << 20, '\0')}});
+    QTest::newRow("bomb") << contentOf(tree.path("b.tar.gz")) << ArchiveError::TooLarge << "--unpacked=1000000";
+}
+
+void ArchiveTest::refuses()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, words);
+    TestTree tree;
+    const Entry archive = tree.add("a.zip", content);
+    const QStringList limits = words.startsWith("--") ? QStringList(words) : QStringList();
+    QTEST(ArchiveError(runReader(QStringList("list") + limits + QStringList(tree.path("a.zip")))), "error");
+    if (!limits.isEmpty())
+        return;
+    QVERIFY(listed(archive).isEmpty());
+    QVERIFY2(archiveProblem(archive).contains(words), qPrintable(archiveProblem(archive)));
+    ArchiveMount mount;
+    QVERIFY(!mount.mount(archive, nullptr) && mount.problem() == archiveProblem(archive));
+}
+
+void ArchiveTest::survivesDamage()
+{
+    QFETCH(QString, suffix);
+    TestTree tree;
+    const QString path = tree.path("a." + suffix);
+    packArchive(path, {{"d/one", QByteArray(3000, 'x')}, {"two", "12345"}, {"link", "two", '2'}});
+    const QByteArray whole = contentOf(path);
+    constexpr int steps = 24;
+    for (int i = 0; i < steps; ++i) {
+        const int at = whole.size() * i / steps;
+        QByteArray flipped = whole;
+        flipped[at] = char(~flipped.at(at));
+        tree.write(path.section('/', -1).toUtf8(), flipped);
+        QVERIFY(runReader({"list", path}) >= 0); // below, it has crashed
+        tree.write(path.section('/', -1).toUtf8(), whole.left(at));
+        const QByteArray target = QByteArray::number(i) + '/';
+        tree.add(target);
+        const int code = runReader({"extract", path, tree.path(target)});
+        QVERIFY2(code > 0 || (code == 0 && suffix == "tar"), qPrintable(QString::number(at))); // a tar may end anywhere
+    }
+}
+
+void ArchiveTest::givesUpWhenCancelled()
+{
+    TestTree tree;
+    constexpr qint64 size = 4LL << 30; // too much to be extracted at once, and no room on the disk before
+    tree.write("a.tar", tarOf({{"large", ""}}, size));
+    QVERIFY(truncate(tree.bytes("a.tar").constData(), size + 2048) == 0);
+    const Entry archive = tree.entry("a.tar");
+    QAtomicInt cancelled(1);
+    QVERIFY(VFS::ptr()->childs(archive, VFS::PlainListing, &cancelled).isEmpty() && archiveProblem(archive).isEmpty());
+    ArchiveMount mount;
+    QSignalSpy progressed(&mount, &ArchiveMount::progress);
+    mount.start(archive);
+    QVERIFY(progressed.wait(60000));
+    mount.cancel();
+    QTRY_VERIFY(!isAnythingLeft("part-*"));
+    QVERIFY(!mount.isMounted() && archiveProblem(archive).isEmpty());
+}
+
+void ArchiveTest::countsMounts()
+{
+    TestTree tree;
+    packArchive(tree.path("a.zip"), {{"d/file", "content"}});
+    const Entry file = VFS::ptr()->entry(tree.path("a.zip/d/file"));
+    ArchiveMountsManagerProxy *const manager = VFS::ptr()->archiveMountsManager();
+    const QString mountPoint = tree.entry("a.zip").archiveMountPointOrLocalPath();
+    {
+        ArchiveMount mount;
+        QSignalSpy finished(&mount, &ArchiveMount::finished);
+        mount.start(file);
+        QVERIFY(finished.wait() && finished.first().first().toBool());
+        QCOMPARE(mount.localEntry(file).path(), file.localPath());
+        manager->refMountPath(mountPoint);
+    }
+    const QString local = file.localPath();
+    QCOMPARE(contentOf(local), QByteArray("content"));
+    QVERIFY(manager->mountPath(local) == mountPoint && manager->mountPath(tree.path("a.zip")).isEmpty());
+    manager->unrefMountPath(mountPoint);
+    QVERIFY(file.localPath().isEmpty() && !QFile::exists(local));
+    QTRY_VERIFY(!isAnythingLeft("gone-*"));
+    manager->refMountPath(mountPoint);
+    QTRY_COMPARE(file.localPath(), local);
+    manager->unrefMountPath(mountPoint);
+    manager->unrefMountPath(mountPoint); // one too many is no harm
+}
+
+void ArchiveTest::servesManyThreads()
+{
+    TestTree tree;
+    std::atomic<int> wrong{0};
+    for (int round = 0; round < 3; ++round) {
+        packArchive(tree.path("a.tar.gz"), {{"d/x", QByteArray(1, char('0' + round))}});
+        const auto work = [&] {
+            const Entry archive = tree.entry("a.tar.gz");
+            ArchiveMount mount;
+            wrong += described(archive) != QStringList({"d/", "d/x 1"}) || !mount.mount(archive, nullptr)
+                || contentOf(VFS::ptr()->entry(archive.path() + "/d/x").localPath()).toInt() != round;
+        };
+        std::thread threads[] = {std::thread(work), std::thread(work), std::thread(work), std::thread(work)};
+        for (std::thread &thread : threads)
+            thread.join();
+    }
+    QCOMPARE(wrong.load(), 0);
 }
 
 QTEST_GUILESS_MAIN(ArchiveTest)

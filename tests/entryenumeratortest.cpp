@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testarchive.h"
 #include "testtree.h"
 #include "treevfs.h"
 
@@ -89,6 +90,19 @@ private Q_SLOTS:
         enumerator.setIncludeArchives(true);
         walk(enumerator);
         QCOMPARE(vfs.asked.mid(2), QStringList({"/top 1", "/top/dir 1", "/top/dir/zip 1"}));
+    }
+
+    void walksRealArchives()
+    {
+        TestTree tree;
+        packArchive(tree.path("a.tar.gz"), {{"dir/leaf", ""}});
+        EntryEnumerator enumerator;
+        enumerator.setStartEntry(tree.entry());
+        QCOMPARE(walk(enumerator), QStringList("a.tar.gz"));
+        enumerator.setIncludeArchives(true);
+        QCOMPARE(walk(enumerator), QStringList({"a.tar.gz", "dir", "leaf"}));
+        enumerator.setStartEntry(tree.entry("a.tar.gz/dir"));
+        QCOMPARE(walk(enumerator), QStringList("leaf"));
     }
 
 private:

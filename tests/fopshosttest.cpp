@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
 #include "fopsclient.h"
+#include "testarchive.h"
 #include "treesnapshot.h"
 
 #include <veskplatform/standardpaths.h>
@@ -103,6 +104,7 @@ private Q_SLOTS:
     void leavesNothingWhenTheDiskIsFull();
     void actsOnExactBytes();
     void answersWhileItWorks();
+    void copiesOutOfArchivesAndChangesNone();
 };
 
 void FopsHostTest::initTestCase()
@@ -354,6 +356,34 @@ void FopsHostTest::answersWhileItWorks()
     }
     QVERIFY(finished.count() > 0 || finished.wait());
     QCOMPARE(finished.first().at(1).toInt(), int(Success));
+}
+
+void FopsHostTest::copiesOutOfArchivesAndChangesNone()
+{
+    TestTree tree({"file", "target/"});
+    packArchive(tree.path("a.tar.gz"), {{"d/inner", "content"}, {"top", "t"}});
+    tree.add("broken.zip", "PK\3\4 and no more");
+    const QList<QByteArray> before = treeSnapshot(tree.bytes("a.tar.gz"));
+    const Entry target = tree.entry("target");
+    const Outcome copied =
+        FopsClient::run(&FOps::copy, EntryList({tree.entry("a.tar.gz/d"), tree.entry("a.tar.gz/top")}), target);
+    QCOMPARE(copied.code, int(Success));
+    QCOMPARE(copied.names(), QStringList({"d", "top"}));
+    QFile inner(tree.path("target/d/inner"));
+    QVERIFY(inner.open(QIODevice::ReadOnly) && inner.readAll() == "content");
+    QVERIFY(inner.permissions() & QFile::WriteOwner);
+    QVERIFY(QFile(tree.path("target/d")).permissions() & QFile::WriteOwner);
+
+    const EntryList top(tree.entry("a.tar.gz/top"));
+    const EntryList file(tree.entry("file"));
+    QCOMPARE(FopsClient::run(&FOps::move, top, target).code, int(NotSupported));
+    for (const char *into : {"a.tar.gz", "a.tar.gz/d"})
+        QCOMPARE(FopsClient::run(&FOps::copy, file, tree.entry(into)).code, int(NotSupported));
+    QCOMPARE(FopsClient::run(&FOps::remove, top, false).code, int(NotSupported));
+    QCOMPARE(FopsClient::run(&FOps::trash, top, false).code, int(NotSupported));
+    QVERIFY(FopsClient::run(&FOps::copy, EntryList(plannedEntry(tree.path("broken.zip/x"))), target).code > Success);
+    QCOMPARE(treeSnapshot(tree.bytes("a.tar.gz")), before);
+    QVERIFY(!hasParts(tree) && tree.entry("file").isFile());
 }
 
 QTEST_GUILESS_MAIN(FopsHostTest)

@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
+#include "testarchive.h"
 #include "testtree.h"
+
+#include <veskplatform/archiveproblem.h>
 
 #include <QtTest>
 
@@ -130,6 +133,7 @@ private Q_SLOTS:
     void resetsEverythingAfterAnOverflow();
     void tellsABadEntryThatIsGone();
     void letsGoOfDirectoriesThatNobodyShows();
+    void followsArchives();
     void pollsBeyondTheLimitOfWatches();
 };
 
@@ -330,6 +334,24 @@ void LocalWatcherTest::letsGoOfDirectoriesThatNobodyShows()
     tree.add("d0/x");
     tree.add("shown/y");
     QVERIFY(log.tells({"+y"}));
+}
+
+void LocalWatcherTest::followsArchives()
+{
+    TestTree tree({"other/"});
+    packArchive(tree.path("a.zip"), {{"d/before", "x"}});
+    packArchive(tree.path("other/a.zip"), {{"d/after", "x"}});
+    const Entry directory = tree.entry("a.zip/d");
+    const Entry before = list(directory).value(0);
+    QCOMPARE(before.path(), tree.path("a.zip/d/before"));
+    EventLog log(tree.path());
+    tree.rename("other/a.zip", "a.zip");
+    QVERIFY(log.tells({"+a.zip", "!d"}));
+    QCOMPARE(fileNames(list(directory)), QStringList("after"));
+    QVERIFY(!VFS::ptr()->isEntryExists(before) && before.isFile());
+    tree.remove("a.zip");
+    QVERIFY(log.tells({"-a.zip", "!d"}));
+    QVERIFY(list(directory).isEmpty() && archiveProblem(before).contains("a.zip cannot be read"));
 }
 
 void LocalWatcherTest::pollsBeyondTheLimitOfWatches()

@@ -26,6 +26,16 @@ bool ByteSource::skip(qint64 size)
     return true;
 }
 
+bool ByteSource::finish()
+{
+    std::array<char, 65536> scratch;
+    qint64 count = 0;
+    do
+        count = read(scratch.data(), qint64(scratch.size()));
+    while (count > 0);
+    return count == 0;
+}
+
 qint64 ByteSource::readFully(char *data, qint64 size)
 {
     qint64 done = 0;

@@ -18,6 +18,8 @@ public:
     /// Passes over bytes; false when there are not as many.
     virtual bool skip(qint64 size);
     virtual bool rewind() = 0;
+    /// Reads what is left, for the sake of a checksum at the end. False when it is damaged.
+    virtual bool finish();
     virtual bool isTooLarge() const { return false; } ///< whether the failure was that there is more than a limit
 
     /// Fills the buffer as far as the source goes; -1 on failure.
@@ -33,6 +35,7 @@ public:
     qint64 read(char *data, qint64 size) override;
     bool skip(qint64 size) override;
     bool rewind() override;
+    bool finish() override { return true; } ///< it has none
 
 private:
     const int m_descriptor;

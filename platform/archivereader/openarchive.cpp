@@ -3,6 +3,7 @@
 
 #include "openarchive.h"
 
+#include "inflatingsource.h"
 #include "sevenzipreader.h"
 #include "tarreader.h"
 #include "unpackingsource.h"
@@ -14,37 +15,43 @@ namespace VeskFM
 namespace
 {
 /// The unpacked bytes of a file that is one compressed stream; it owns the file's.
-class UnpackedFile : public ByteSource
+template <typename Source> class UnpackedFile : public ByteSource
 {
 public:
-    UnpackedFile(int descriptor, qint64 size, KCompressionDevice::CompressionType type, qint64 limit)
+    template <typename Kind>
+    UnpackedFile(int descriptor, qint64 size, Kind kind, qint64 limit)
         : m_file(descriptor, 0, size)
-        , m_source(&m_file, type, UnpackingSource::WithHeader, limit)
+        , m_source(&m_file, kind, limit)
     {
     }
     qint64 read(char *data, qint64 size) override { return m_source.read(data, size); }
     bool rewind() override { return m_source.rewind(); }
+    bool finish() override { return m_source.finish(); }
     bool isTooLarge() const override { return m_source.isTooLarge(); }
 
 private:
     FileSource m_file;
-    UnpackingSource m_source;
+    Source m_source;
 };
 
-KCompressionDevice::CompressionType compressionOf(const QByteArray &start)
+/// What a tar archive is read from, given the first bytes of the file.
+std::unique_ptr<ByteSource> unpacked(const QByteArray &start, int descriptor, qint64 size, qint64 limit)
 {
     static const QByteArray xz("\xfd"
                                "7zXZ\0",
                                6);
+    const auto make = [&](KCompressionDevice::CompressionType type) {
+        return std::make_unique<UnpackedFile<UnpackingSource>>(descriptor, size, type, limit);
+    };
     if (start.startsWith("\x1f\x8b"))
-        return KCompressionDevice::GZip;
+        return std::make_unique<UnpackedFile<InflatingSource>>(descriptor, size, InflatingSource::Gzip, limit);
     if (start.startsWith("BZh"))
-        return KCompressionDevice::BZip2;
+        return make(KCompressionDevice::BZip2);
     if (start.startsWith(xz))
-        return KCompressionDevice::Xz;
+        return make(KCompressionDevice::Xz);
     if (start.startsWith("\x28\xb5\x2f\xfd"))
-        return KCompressionDevice::Zstd;
-    return KCompressionDevice::None;
+        return make(KCompressionDevice::Zstd);
+    return std::make_unique<FileSource>(descriptor, 0, size);
 }
 } // namespace
 
@@ -57,10 +64,7 @@ std::unique_ptr<MemberReader> openArchive(int descriptor, qint64 size, const Arc
         return std::make_unique<ZipReader>(descriptor, size);
     if (start.startsWith("7z\xbc\xaf\x27\x1c"))
         return std::make_unique<SevenZipReader>(descriptor, size, limits.entries);
-    const KCompressionDevice::CompressionType type = compressionOf(start);
-    if (type == KCompressionDevice::None)
-        return std::make_unique<TarReader>(std::make_unique<FileSource>(descriptor, 0, size));
-    return std::make_unique<TarReader>(std::make_unique<UnpackedFile>(descriptor, size, type, limits.unpackedBytes));
+    return std::make_unique<TarReader>(unpacked(start, descriptor, size, limits.unpackedBytes));
 }
 
 } // namespace VeskFM

@@ -94,7 +94,7 @@ QByteArray unpackedHeader(int descriptor, qint64 size, const QByteArray &header)
     head.resize(head.size() + int(sizeof(quint64)));
     qToLittleEndian<quint64>(unpackSize, head.data() + properties.size());
     Joined packed(head, descriptor, startSize + qint64(packPosition), qint64(packSize));
-    UnpackingSource source(&packed, KCompressionDevice::Xz, UnpackingSource::WithHeader, largestHeader);
+    UnpackingSource source(&packed, KCompressionDevice::Xz, largestHeader);
     QByteArray text(int(unpackSize), Qt::Uninitialized);
     text.resize(int(qMax<qint64>(source.readFully(text.data(), text.size()), 0)));
     return text;

@@ -99,8 +99,10 @@ bool TarReader::readHeader()
         return false; // the framework's own class, among others, writes no mark at the end
     if (count != TarHeader::blockSize)
         return failOfSource();
-    if (m_header.isZero()) // and hardly more: a large file of zeros is no archive
-        return m_hadMember || !m_source->skip(longestPadding) ? false : fail(ArchiveError::Damaged);
+    if (m_header.isZero()) { // and hardly more: a large file of zeros is no archive
+        const bool isNone = !m_hadMember && m_source->skip(longestPadding);
+        return isNone || !m_source->finish() ? failOfSource() : false;
+    }
     if (!m_header.hasValidChecksum() || !m_header.size(&m_left))
         return fail(ArchiveError::Damaged);
     m_padding = paddingOf(m_left);

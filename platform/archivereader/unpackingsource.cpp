@@ -18,10 +18,9 @@ namespace
 constexpr size_t inputSize = 65536; // a filter wants the whole header of a stream in one piece
 }
 
-UnpackingSource::UnpackingSource(ByteSource *packed, KCompressionDevice::CompressionType type, Form form, qint64 limit)
+UnpackingSource::UnpackingSource(ByteSource *packed, KCompressionDevice::CompressionType type, qint64 limit)
     : m_packed(packed)
     , m_type(type)
-    , m_form(form)
     , m_limit(limit)
     , m_input(inputSize)
 {
@@ -56,13 +55,12 @@ bool UnpackingSource::beginStream()
     m_filter.reset(KCompressionDevice::filterForCompressionType(m_type));
     if (!m_filter)
         return false;
-    m_filter->setFilterFlags(m_form == BareDeflate ? KFilterBase::NoHeaders : KFilterBase::WithHeaders);
     if (!m_filter->init(QIODevice::ReadOnly)) {
         m_filter.reset();
         return false;
     }
     m_filter->setInBuffer(m_input.data(), uint(m_left));
-    return m_form == BareDeflate || m_filter->readHeader();
+    return m_filter->readHeader();
 }
 
 void UnpackingSource::endStream()
@@ -94,7 +92,6 @@ qint64 UnpackingSource::read(char *data, qint64 size)
         if (result == KFilterBase::End) {
             endStream();
             m_hadStream = true;
-            m_isAtEnd = m_form == BareDeflate;
         } else if (result == KFilterBase::Error || (count == 0 && m_left == before)) {
             m_isAtEnd = isFresh && m_hadStream;
             break;

@@ -15,15 +15,14 @@ class KFilterBase;
 namespace VeskFM
 {
 
-/// The unpacked bytes of a compressed source; of all its streams where several follow one another, as parallel packers
-/// write them. Drives the filter itself: a KCompressionDevice takes the second stream for an error.
+/// The unpacked bytes of a source that bzip2, xz or zstd has packed; of all its streams where several follow one another,
+/// as parallel packers write them. Drives the filter itself: a KCompressionDevice takes the second stream for an error.
 class UnpackingSource : public ByteSource
 {
 public:
-    enum Form { WithHeader, BareDeflate }; ///< the latter is what Zip holds
     /// @param packed borrowed, and read by nobody else
     /// @param limit  bytes; of unpacked ones
-    UnpackingSource(ByteSource *packed, KCompressionDevice::CompressionType type, Form form, qint64 limit);
+    UnpackingSource(ByteSource *packed, KCompressionDevice::CompressionType type, qint64 limit);
     ~UnpackingSource() override;
 
     qint64 read(char *data, qint64 size) override;
@@ -37,7 +36,6 @@ private:
 
     ByteSource *const m_packed;
     const KCompressionDevice::CompressionType m_type;
-    const Form m_form;
     const qint64 m_limit;
     std::unique_ptr<KFilterBase> m_filter; // null between two streams
     std::vector<char> m_input;

@@ -3,6 +3,7 @@
 
 #include "zipreader.h"
 
+#include "inflatingsource.h"
 #include "unpackingsource.h"
 
 #include <QDateTime>
@@ -81,18 +82,15 @@ qint64 modifiedMs(quint16 time, quint16 date, const QByteArray &extra)
 std::unique_ptr<ByteSource> unpacker(int method, ByteSource *packed)
 {
     const qint64 noLimit = std::numeric_limits<qint64>::max(); // the size is known, and checked
-    const auto make = [&](KCompressionDevice::CompressionType type, UnpackingSource::Form form) {
-        return std::make_unique<UnpackingSource>(packed, type, form, noLimit);
-    };
     switch (method) {
     case 8:
-        return make(KCompressionDevice::GZip, UnpackingSource::BareDeflate);
+        return std::make_unique<InflatingSource>(packed, InflatingSource::BareDeflate, noLimit);
     case 12:
-        return make(KCompressionDevice::BZip2, UnpackingSource::WithHeader);
+        return std::make_unique<UnpackingSource>(packed, KCompressionDevice::BZip2, noLimit);
     case 93:
-        return make(KCompressionDevice::Zstd, UnpackingSource::WithHeader);
+        return std::make_unique<UnpackingSource>(packed, KCompressionDevice::Zstd, noLimit);
     case 95:
-        return make(KCompressionDevice::Xz, UnpackingSource::WithHeader);
+        return std::make_unique<UnpackingSource>(packed, KCompressionDevice::Xz, noLimit);
     default:
         return nullptr;
     }

@@ -7,7 +7,7 @@
 #include <QString>
 #include <QVector>
 
-/// One member of an archive: a tar type ('0' file, '1' hard link, '2' link, '5' directory, …), and the content or target.
+/// A member by its tar type ('0' file, '1' hard link, '2' link, '5' directory, …), with its content or target.
 struct TestMember
 {
     QByteArray name;
@@ -15,9 +15,9 @@ struct TestMember
     char type = '0';
 };
 
-/// Packs members, of the types '0', '2' and '5', with the framework's own class, as the name's suffix says.
+/// Packs files, links and directories with the framework's own class, as the suffix of the name says.
 void packArchive(const QString &path, const QVector<TestMember> &members);
 
 /// A tar archive as no archiver would write it.
-/// @param declaredSize bytes that its last header claims; negative for the truth
-QByteArray tarOf(const QVector<TestMember> &members, qint64 declaredSize = -1);
+/// @param size what its last header claims, in bytes; negative for the truth
+QByteArray tarOf(const QVector<TestMember> &members, qint64 size = -1);
