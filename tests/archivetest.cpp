@@ -46,12 +46,6 @@ QStringList described(const Entry &directory, const QString &above = {})
     return lines;
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 QString mountsDirectory()
 {
     return qgetenv("XDG_CACHE_HOME") + "/vesk-fm/archives/";
@@ -188,7 +182,7 @@ void ArchiveTest::leavesOutWhatClimbs()
     QVERIFY2(mount.mount(archive, nullptr), qPrintable(mount.problem()));
     QCOMPARE(described(mount.localEntry(archive)), expected);
     struct stat facts = {};
-    QVERIFY(stat(QFile::encodeName(mount.localEntry(archive).localPath() + "/twice"), &facts) == 0);
+    QVERIFY(stat(QFile::encodeName(mount.localEntry(archive).localPath() + "/twice").constData(), &facts) == 0);
     QVERIFY((facts.st_mode & 07777) == 0555 && facts.st_nlink == 2);
 }
 
