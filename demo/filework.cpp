@@ -31,7 +31,7 @@ namespace
 
 QString itemCount(int count)
 {
-    return count == 1 ? FileWork::tr("1 item") : FileWork::tr("%1 items").arg(count);
+    return FileWork::tr("%Ln item(s)", nullptr, count);
 }
 
 } // namespace

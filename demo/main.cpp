@@ -18,9 +18,11 @@
 #include <QApplication>
 #include <QFont>
 #include <QIcon>
+#include <QLocale>
 #include <QStandardPaths>
 #include <QTextStream>
 #include <QTimer>
+#include <QTranslator>
 
 #include <clocale>
 #include <cstdio>
@@ -42,12 +44,20 @@ int fail(const QString &message)
     return 1;
 }
 
-// In a bare environment the toolkit would read and write file names as ASCII, and lose all others.
+// In a bare environment, or for a locale that is not installed, the toolkit would read and write file names as ASCII, and
+// lose all others. The language stays what was asked for.
 void chooseEncoding()
 {
     std::setlocale(LC_ALL, "");
-    if (MB_CUR_MAX == 1)
-        qputenv(qEnvironmentVariableIsEmpty("LC_ALL") ? "LC_CTYPE" : "LC_ALL", "C.UTF-8");
+    if (MB_CUR_MAX == 1) {
+        const QByteArray everything = qgetenv("LC_ALL");
+        for (const char *name : {"LANG", "LC_MESSAGES"}) {
+            if (!everything.isEmpty())
+                qputenv(name, everything);
+        }
+        qunsetenv("LC_ALL");
+        qputenv("LC_CTYPE", "C.UTF-8");
+    }
     std::setlocale(LC_ALL, "");
 }
 
@@ -87,6 +97,17 @@ void chooseFont()
     QFont font = QApplication::font();
     font.setPointSize(offscreenFontSize);
     QApplication::setFont(font);
+}
+
+// The English one holds the plural forms, which every language without a catalogue needs too.
+void installCatalogue()
+{
+    const QString name = QStringLiteral("vesk-browser");
+    const QString directory = QStringLiteral(VESKFM_TRANSLATIONS_DIR);
+    auto *const catalogue = new QTranslator(qApp);
+    if (catalogue->load(QLocale::system(), name, QStringLiteral("_"), directory)
+        || catalogue->load(name + QLatin1String("_en"), directory))
+        QCoreApplication::installTranslator(catalogue);
 }
 
 int printRows(const Options &options, const Entry &directory)
@@ -151,6 +172,7 @@ int main(int argc, char **argv)
                                       : problem);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("vesk-browser"));
+    installCatalogue();
     problem = readOptions(argc, argv, &options);
     if (options.help) {
         std::fputs(qUtf8Printable(helpText()), stdout);

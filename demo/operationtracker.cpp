@@ -22,18 +22,18 @@ QString problem(int code)
 {
     static const char *const texts[] = {
         "",
-        QT_TR_NOOP("cancelled"),
-        QT_TR_NOOP("something is not there any more"),
-        QT_TR_NOOP("permission denied"),
-        QT_TR_NOOP("the name is taken"),
-        QT_TR_NOOP("no space left"),
-        QT_TR_NOOP("a folder cannot go into itself"),
-        QT_TR_NOOP("not possible here"),
-        QT_TR_NOOP("failed"),
-        QT_TR_NOOP("something changed while it was moved, and stays"),
+        QT_TRANSLATE_NOOP("OperationTracker", "cancelled"),
+        QT_TRANSLATE_NOOP("OperationTracker", "something is not there any more"),
+        QT_TRANSLATE_NOOP("OperationTracker", "permission denied"),
+        QT_TRANSLATE_NOOP("OperationTracker", "the name is taken"),
+        QT_TRANSLATE_NOOP("OperationTracker", "no space left"),
+        QT_TRANSLATE_NOOP("OperationTracker", "a folder cannot go into itself"),
+        QT_TRANSLATE_NOOP("OperationTracker", "not possible here"),
+        QT_TRANSLATE_NOOP("OperationTracker", "failed"),
+        QT_TRANSLATE_NOOP("OperationTracker", "something changed while it was moved, and stays"),
     };
     const bool known = code >= 0 && code < int(std::size(texts));
-    return OperationTracker::tr(known ? texts[code] : QT_TR_NOOP("failed"));
+    return OperationTracker::tr(known ? texts[code] : QT_TRANSLATE_NOOP("OperationTracker", "failed"));
 }
 
 } // namespace

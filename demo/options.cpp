@@ -16,10 +16,10 @@ using namespace VeskFM;
 namespace
 {
 
-QString tr(const char *text)
+struct Texts
 {
-    return QCoreApplication::translate("Options", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Options)
+};
 
 // The parser works on text, names on disk are bytes: as Latin-1 every byte goes through it unharmed.
 QStringList rawArguments(int argc, char **argv)
@@ -37,21 +37,22 @@ QString textOption(const QCommandLineParser &parser, const QString &name)
 
 void describeOptions(QCommandLineParser *parser)
 {
-    parser->setApplicationDescription(tr(
+    parser->setApplicationDescription(Texts::tr(
         "Shows directories. In a kiosk there is no menu bar, and no way to type a path, to change settings, to open\n"
         "another window, or to start an application that the kiosk does not allow."));
-    parser->addPositionalArgument(QStringLiteral("DIR"),
-                                  tr("Directory to show, a path or a URL; the current one if not given. Each gets a "
-                                     "window."),
-                                  QStringLiteral("[DIR...]"));
+    parser->addPositionalArgument(
+        QStringLiteral("DIR"),
+        Texts::tr("Directory to show, a path or a URL; the current one if not given. Each gets a "
+                  "window."),
+        QStringLiteral("[DIR...]"));
     parser->addOptions({
-        {{QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help and exit.")},
-        {QStringLiteral("print"), tr("Print the rows as a table and exit.")},
-        {QStringLiteral("screenshot"), tr("Save a picture of the window and exit."), QStringLiteral("FILE")},
-        {QStringLiteral("hidden"), tr("Show hidden files too.")},
-        {QStringLiteral("sort"), tr("Sort by a column: Name, Type, Size, Modified, ..."),
+        {{QStringLiteral("h"), QStringLiteral("help")}, Texts::tr("Show this help and exit.")},
+        {QStringLiteral("print"), Texts::tr("Print the rows as a table and exit.")},
+        {QStringLiteral("screenshot"), Texts::tr("Save a picture of the window and exit."), QStringLiteral("FILE")},
+        {QStringLiteral("hidden"), Texts::tr("Show hidden files too.")},
+        {QStringLiteral("sort"), Texts::tr("Sort by a column: Name, Type, Size, Modified, ..."),
          QStringLiteral("COLUMN[,desc]")},
-        {QStringLiteral("filter"), tr("Show only names that match: *.png;*.jpg, or a part of the name."),
+        {QStringLiteral("filter"), Texts::tr("Show only names that match: *.png;*.jpg, or a part of the name."),
          QStringLiteral("PATTERN")},
     });
 }
@@ -79,7 +80,7 @@ QString readOptions(int argc, char **argv, Options *options)
     options->sortOrder = sorting.value(1) == QLatin1String("desc") ? Model::Descending : Model::Ascending;
     if (!parsed)
         return parser.errorText();
-    return options->directories.size() > 1 && options->isHeadless() ? tr("more than one directory") : QString();
+    return options->directories.size() > 1 && options->isHeadless() ? Texts::tr("more than one directory") : QString();
 }
 
 QString helpText()

@@ -133,7 +133,7 @@ void StatusLine::describeListing(Pane *pane)
     if (isListing(model)) {
         text = tr("Listing %1 …").arg(printableText(pane->directory().path()));
     } else if (count > 0) {
-        text = count == 1 ? tr("1 entry") : tr("%1 entries").arg(locale().toString(count));
+        text = tr("%Ln entry(s)", nullptr, count);
     } else if (!pane->directory().isNull()) {
         emptyText = emptyListingReason(model);
         text = emptyText;
