@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The libveskfmcore authors
 // SPDX-License-Identifier: LGPL-2.1-or-later
 
-#include "models/naturalcompare.h"
+#include "ordering/naturalcompare.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -18,7 +18,7 @@ QStringList confusingNames(int count)
 {
     static const QStringList pieces =
         QStringLiteral("a|B|0|00|7|12|3456789012345678901|_|.|/|:|ÿ|é|Ж|\U0001f600|\uffee|report ").split('|')
-        + QStringList(QChar(0));
+        + QStringList({QChar(0), QString(270, QLatin1Char('4')), QString(280, QLatin1Char('5'))});
     QRandomGenerator random(42);
     QStringList names = {QString()};
     while (names.size() < count) {

@@ -52,42 +52,49 @@ int compareDigits(const ushort *a, const ushort *b, qsizetype count)
 class PrefixPacker
 {
 public:
-    bool isFull() const { return m_used == capacity; }
+    bool isFull() const { return m_room == 0; }
     void put(uint byte)
     {
         if (isFull())
             return;
-        quint64 &half = m_used < capacity / 2 ? m_prefix.high : m_prefix.low;
-        half |= quint64(byte) << (56 - 8 * (m_used % (capacity / 2)));
-        ++m_used;
+        --m_room;
+        quint64 &half = m_room >= halfSize ? m_prefix.high : m_prefix.low;
+        half |= quint64(byte) << (8 * (m_room & (halfSize - 1)));
     }
-    void close() { m_used = capacity; }
+    void close() { m_room = 0; }
     KeyPrefix prefix() const { return m_prefix; }
 
 private:
-    static constexpr int capacity = sizeof(KeyPrefix);
+    static constexpr uint halfSize = sizeof(quint64);
 
     KeyPrefix m_prefix;
-    int m_used = 0;
+    uint m_room = sizeof(KeyPrefix);
 };
 
-constexpr uint beyondByte = 0xff;    // stands for this code unit and all above: nothing behind it can be told apart
-constexpr uint manyDigits = '0' + 9; // stands for a number of nine digits and more
-
-void putUnit(PrefixPacker &packer, ushort unit)
+/// In one to three bytes, whose order is that of the units.
+void putUnit(PrefixPacker &packer, uint unit)
 {
-    packer.put(std::min<uint>(unit, beyondByte));
-    if (unit >= beyondByte)
-        packer.close();
+    if (unit < 0x80)
+        return packer.put(unit);
+    if (unit < 0x800) {
+        packer.put(0xc0 | unit >> 6);
+    } else {
+        packer.put(0xe0 | unit >> 12);
+        packer.put(0x80 | (unit >> 6 & 0x3f));
+    }
+    packer.put(0x80 | (unit & 0x3f));
 }
 
 /// The number of digits, then two digits a byte: of two numbers the longer is the greater.
 void putNumber(PrefixPacker &packer, const ushort *text, const Number &number)
 {
-    const uint count = std::min<uint>('0' + uint(number.size()), manyDigits);
-    packer.put(count);
-    if (count == manyDigits)
-        packer.close();
+    constexpr qsizetype manyDigits = 9; // as many as stand, as a digit, where numbers do among other characters
+    constexpr qsizetype tooManyDigits = manyDigits + 0xff;
+    packer.put('0' + uint(std::min(number.size(), manyDigits)));
+    if (number.size() >= manyDigits)
+        packer.put(uint(std::min(number.size(), tooManyDigits) - manyDigits));
+    if (number.size() >= tooManyDigits)
+        packer.close(); // nothing behind it can be told apart
     for (qsizetype i = number.begin; i < number.end && !packer.isFull(); i += 2) {
         const uint high = text[i] & 0xf;
         const uint low = i + 1 < number.end ? text[i + 1] & 0xf : 0;
