@@ -300,6 +300,7 @@ void MainWindow::openFromPanel(const Entry &entry, bool inOtherPane)
         else
             openDirectory(place);
     });
+    m_active->focusView();
     m_panel->markDirectory(); // what was clicked may be somewhere else, or nowhere
 }
 

@@ -61,20 +61,25 @@ Entry PanelTree::currentEntry() const
 // These keys mean what has the focus, not what is selected in a pane.
 bool PanelTree::event(QEvent *event)
 {
-    if (event->type() == QEvent::ShortcutOverride) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Delete || key == Qt::Key_F2 || key == Qt::Key_Return || key == Qt::Key_Enter) {
-            event->accept();
-            return true;
-        }
+    if (event->type() == QEvent::ShortcutOverride && isOwnKey(*static_cast<QKeyEvent *>(event))) {
+        event->accept();
+        return true;
     }
     return QTreeView::event(event);
+}
+
+bool PanelTree::isOwnKey(const QKeyEvent &event)
+{
+    const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const bool isReturn = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    const bool isOther = event.key() == Qt::Key_Delete || event.key() == Qt::Key_F2;
+    return isReturn ? isPlain || event.modifiers() == Qt::ControlModifier : isOther && isPlain;
 }
 
 void PanelTree::keyPressEvent(QKeyEvent *event)
 {
     const Entry entry = currentEntry();
-    switch (entry.isNull() ? 0 : event->key()) {
+    switch (entry.isNull() || !isOwnKey(*event) ? 0 : event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
         Q_EMIT opened(entry, event->modifiers().testFlag(Qt::ControlModifier));

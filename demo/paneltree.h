@@ -38,6 +38,8 @@ protected:
     void drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const override;
 
 private:
+    static bool isOwnKey(const QKeyEvent &event);
+
     VeskFM::TreeModel *m_model; // borrowed
     QPoint m_pressPosition;
     VeskFM::Entry m_pressed; // a favorite that may be dragged away; null otherwise
