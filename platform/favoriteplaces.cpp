@@ -126,7 +126,7 @@ void FavoritePlaces::lookUnlessFollowed()
 
 void FavoritePlaces::update()
 {
-    QVector<FoundPlace> found;
+    PlaceGroup::News news;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         const Version version = present(); // before it is read: what changes meanwhile is found next time
@@ -134,10 +134,12 @@ void FavoritePlaces::update()
             return;
         m_version = version;
         QByteArray text;
-        if (readSmallFile(PathCodec::encode(file()), largestFile, &text))
-            found = favoritesIn(text);
+        if (!readSmallFile(PathCodec::encode(file()), largestFile, &text))
+            text.clear();
+        news = m_group.replace(favoritesIn(text));
     }
-    m_group.replace(found, m_shown);
+    if (m_shown)
+        m_group.tell(news);
 }
 
 FavoritePlaces::Version FavoritePlaces::present()

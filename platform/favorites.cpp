@@ -3,6 +3,7 @@
 
 #include <veskplatform/favorites.h>
 
+#include "archivenodes.h"
 #include "bookmarklines.h"
 #include "favoriteplaces.h"
 #include "localvfs.h"
@@ -37,6 +38,8 @@ QString targetOf(const Entry &entry)
     const QString target = FavoritePlaces::target(entry.path());
     if (!target.isEmpty())
         return target;
+    if (!ArchiveNodes::archiveOf(entry).isEmpty())
+        return {}; // other programs do not get in there
     const QString directory = LocalVfs::diskPath(entry);
     if (!directory.isEmpty() || entry.isNull())
         return directory;

@@ -66,14 +66,7 @@ int PlaceGroup::indexOf(const QString &path) const
     return m_rows.value(path, -1);
 }
 
-void PlaceGroup::replace(const QVector<FoundPlace> &found, bool shown)
-{
-    const News news = takeOver(found);
-    if (shown)
-        tell(news); // without the lock: who hears of it asks
-}
-
-PlaceGroup::News PlaceGroup::takeOver(const QVector<FoundPlace> &found)
+PlaceGroup::News PlaceGroup::replace(const QVector<FoundPlace> &found)
 {
     const Lock lock(m_mutex);
     News news;

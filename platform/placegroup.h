@@ -39,17 +39,7 @@ public:
     Entry entry(const QString &path) const; ///< null when there is none
     int indexOf(const QString &path) const; ///< -1 when there is none
 
-    /// Takes over what there is now. The watcher tells single places, so that branches of the others stay open; one that
-    /// changes its position is told as deleted and created.
-    /// @param shown whether anybody has seen the list; otherwise there is nothing to tell
-    void replace(const QVector<FoundPlace> &found, bool shown = true);
-
-private:
-    struct Known
-    {
-        Entry entry;
-        PlaceEntryData *data; // of the entry
-    };
+    /// What became different. A place that changed its position is gone and new.
     struct News
     {
         EntryList deleted;
@@ -58,9 +48,17 @@ private:
         EntryList otherContents;
         bool wasEmpty = false;
     };
-    News takeOver(const QVector<FoundPlace> &found);
+    News replace(const QVector<FoundPlace> &found); ///< takes over what there is now
+    /// Has the watcher tell single places, so that branches of the others stay open. Call it without locks: who hears of
+    /// it asks.
     void tell(const News &news) const;
 
+private:
+    struct Known
+    {
+        Entry entry;
+        PlaceEntryData *data; // of the entry
+    };
     const Entry m_group;
     EntryWatcher *const m_watcher;
     mutable std::mutex m_mutex;

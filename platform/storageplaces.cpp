@@ -89,24 +89,15 @@ void StoragePlaces::load(int timeoutMs)
     if (m_loaded)
         return;
     StorageSource *const source = StorageSource::ptr();
-    if (!source->waitForDevices(timeoutMs)) {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        follow(source);
-        return;
-    }
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    follow(source);
-    if (!m_loaded)
-        takeOver(source);
+    const bool isReady = source->waitForDevices(m_waited ? 0 : timeoutMs);
+    m_waited = m_waited || timeoutMs > 0; // a service that hangs is not waited for again
+    takeOver(source, isReady && !m_loaded);
 }
 
 void StoragePlaces::update()
 {
     StorageSource *const source = StorageSource::ptr();
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    follow(source);
-    if (source->waitForDevices(0))
-        takeOver(source);
+    takeOver(source, source->waitForDevices(0));
 }
 
 void StoragePlaces::follow(StorageSource *source)
@@ -119,17 +110,30 @@ void StoragePlaces::follow(StorageSource *source)
     connect(source, &StorageSource::devicesChanged, this, &StoragePlaces::update, Qt::QueuedConnection);
 }
 
-void StoragePlaces::takeOver(const StorageSource *source)
+/// @param isReady  otherwise its first devices are told later
+void StoragePlaces::takeOver(StorageSource *source, bool isReady)
 {
-    QVector<FoundPlace> found;
-    const QVector<StorageDevice> devices = source->devices();
-    for (const StorageDevice &device : devices)
-        found.append(placeOf(device));
-    const QSet<QString> before = mountPoints(m_group.entries());
-    m_loaded = true; // first: who is told asks, and must not wait here
-    m_group.replace(found, m_shown);
-    const QSet<QString> now = mountPoints(m_group.entries());
-    for (const QString &path : (before - now) + (now - before)) // the directory there is another one
+    PlaceGroup::News news;
+    QSet<QString> remounted;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        follow(source);
+        if (!isReady)
+            return;
+        const QSet<QString> before = mountPoints(m_group.entries());
+        QVector<FoundPlace> found;
+        const QVector<StorageDevice> devices = source->devices();
+        for (const StorageDevice &device : devices)
+            found.append(placeOf(device));
+        news = m_group.replace(found);
+        m_loaded = true;
+        const QSet<QString> now = mountPoints(m_group.entries());
+        remounted = (before - now) + (now - before);
+    }
+    if (!m_shown)
+        return;
+    m_group.tell(news);
+    for (const QString &path : qAsConst(remounted)) // the directory there is another one
         m_watcher->lookAgain(path);
 }
 

@@ -40,7 +40,7 @@ public:
 private:
     void load(int timeoutMs);
     void follow(StorageSource *source);
-    void takeOver(const StorageSource *source);
+    void takeOver(StorageSource *source, bool isReady);
 
     LocalEntryWatcher *const m_watcher;
     PlaceGroup m_group;
@@ -48,6 +48,7 @@ private:
     StorageSource *m_source = nullptr; // whose changes are followed
     std::atomic<bool> m_loaded{false};
     std::atomic<bool> m_shown{false}; // somebody has seen the list
+    std::atomic<bool> m_waited{false};
 };
 
 } // namespace VeskFM
