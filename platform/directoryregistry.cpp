@@ -18,11 +18,6 @@ bool isHeldElsewhere(const ShownEntry &shown)
 {
     return shown.entry.data()->ref.loadRelaxed() > 1;
 }
-
-bool isBelow(const QByteArray &path, const QByteArray &directory)
-{
-    return path.size() > directory.size() && path.startsWith(directory) && path.at(directory.size()) == '/';
-}
 } // namespace
 
 void DirectoryRegistry::beginListing(const QByteArray &directory, const Entry &entry, VFS::EntryChildFilters filters)
@@ -59,8 +54,12 @@ void DirectoryRegistry::addChange(const QByteArray &directory, const QByteArray 
 {
     const Lock lock(m_mutex);
     const auto record = m_records.find(directory);
-    if (record != m_records.end())
-        record->changes.add(name, kind, now);
+    if (record == m_records.end())
+        return;
+    if (!record->changes)
+        record->changes = std::make_shared<PendingChanges>();
+    record->changes->add(name, kind, now);
+    m_withNews.insert(record.key());
 }
 
 void DirectoryRegistry::addLinks(const QByteArray &directory, const QSet<QByteArray> &names)
@@ -81,27 +80,37 @@ bool DirectoryRegistry::takeLink(const QByteArray &directory, const QByteArray &
 void DirectoryRegistry::setMoved(const QByteArray &directory, bool unmounted)
 {
     const Lock lock(m_mutex);
-    for (auto record = m_records.begin(); record != m_records.end(); ++record) {
-        if (record.key() == directory || isBelow(record.key(), directory)) {
-            record->moved = true;
-            record->unmounted = record->unmounted || unmounted;
-        }
-    }
+    const auto setMoved = [this, unmounted](Records::iterator record) {
+        record->moved = true;
+        record->unmounted = record->unmounted || unmounted;
+        m_withNews.insert(record.key());
+    };
+    const auto own = m_records.find(directory);
+    if (own != m_records.end())
+        setMoved(own);
+    const QByteArray below = directory + '/';
+    for (auto record = m_records.lowerBound(below); record != m_records.end() && record.key().startsWith(below);
+         ++record)
+        setMoved(record);
 }
 
 void DirectoryRegistry::reset(const QByteArray &directory)
 {
     const Lock lock(m_mutex);
     const auto record = m_records.find(directory);
-    if (record != m_records.end())
-        record->reset = true;
+    if (record == m_records.end())
+        return;
+    record->reset = true;
+    m_withNews.insert(record.key());
 }
 
 void DirectoryRegistry::resetAll()
 {
     const Lock lock(m_mutex);
-    for (Record &record : m_records)
-        record.reset = true;
+    for (auto record = m_records.begin(); record != m_records.end(); ++record) {
+        record->reset = true;
+        m_withNews.insert(record.key());
+    }
 }
 
 std::vector<DirectoryNews> DirectoryRegistry::takeNews(qint64 now, size_t most, qint64 *nextDue)
@@ -109,15 +118,24 @@ std::vector<DirectoryNews> DirectoryRegistry::takeNews(qint64 now, size_t most, 
     const Lock lock(m_mutex);
     std::vector<DirectoryNews> all;
     *nextDue = PendingChanges::never;
-    for (auto record = m_records.begin(); record != m_records.end(); ++record) {
-        if (record->listings > 0)
+    for (auto directory = m_withNews.begin(); directory != m_withNews.end();) {
+        const auto record = m_records.find(*directory);
+        const bool isThere = record != m_records.end();
+        if (isThere && record->listings > 0) {
+            ++directory;
             continue;
+        }
         DirectoryNews news;
-        if (takeNewsOf(record.key(), &*record, now, most, &news)) {
+        if (isThere && takeNewsOf(record.key(), &*record, now, most, &news)) {
             most -= std::min(most, news.changes.size());
             all.push_back(std::move(news));
         }
-        *nextDue = std::min(*nextDue, record->changes.nextDue());
+        if (isThere && record->changes) {
+            *nextDue = std::min(*nextDue, record->changes->nextDue());
+            ++directory;
+        } else {
+            directory = m_withNews.erase(directory);
+        }
     }
     return all;
 }
@@ -131,8 +149,10 @@ bool DirectoryRegistry::takeNewsOf(const QByteArray &directory, Record *record, 
         most = std::numeric_limits<size_t>::max();
     }
     PendingChanges::Change change;
-    while (news->changes.size() < most && record->changes.takeDue(now, &change))
+    while (record->changes && news->changes.size() < most && record->changes->takeDue(now, &change))
         news->changes.push_back(change);
+    if (record->changes && record->changes->nextDue() == PendingChanges::never)
+        record->changes.reset();
     if (!whole && news->changes.empty())
         return false;
     news->directory = directory;
@@ -162,7 +182,7 @@ QList<QByteArray> DirectoryRegistry::takeUnused(int generous)
 {
     const Lock lock(m_mutex);
     QList<QByteArray> unused;
-    if (m_records.size() <= generous)
+    if (m_records.size() <= std::max(generous, 2 * m_usedAtSweep))
         return unused;
     for (auto record = m_records.begin(); record != m_records.end();) {
         const bool used =
@@ -174,6 +194,7 @@ QList<QByteArray> DirectoryRegistry::takeUnused(int generous)
             record = m_records.erase(record);
         }
     }
+    m_usedAtSweep = m_records.size();
     return unused;
 }
 
@@ -181,6 +202,8 @@ void DirectoryRegistry::clear()
 {
     const Lock lock(m_mutex);
     m_records.clear();
+    m_withNews.clear();
+    m_usedAtSweep = 0;
 }
 
 } // namespace VeskFM

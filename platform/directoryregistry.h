@@ -8,10 +8,12 @@
 
 #include <veskplatform/vfs.h>
 
-#include <QHash>
+#include <QMap>
 #include <QSet>
 
+#include <memory>
 #include <mutex>
+#include <set>
 #include <vector>
 
 namespace VeskFM
@@ -40,6 +42,8 @@ struct DirectoryNews
 ///
 /// News of a directory that is being listed wait until the listing has been told, so that none is lost in between.
 ///
+/// A tree may have shown a hundred thousand of them, so nothing but sweeps and losses goes through all.
+///
 /// Thread: any. Nothing here touches the disk or blocks.
 class DirectoryRegistry
 {
@@ -62,7 +66,8 @@ public:
 
     bool contains(const QByteArray &directory) const;
     void remove(const QByteArray &directory);
-    /// Takes out the directories whose entries nobody else holds any more, if there are more than @p generous of all.
+    /// Takes out the directories whose entries nobody else holds any more, if there are more than @p generous of all
+    /// and twice as many as were in use the last time.
     QList<QByteArray> takeUnused(int generous);
     void clear();
 
@@ -72,16 +77,20 @@ private:
         std::vector<ShownEntry> shown;
         QSet<QByteArray> links;
         FileIdentity identity;
-        PendingChanges changes;
-        int listings = 0; // under way
+        std::shared_ptr<PendingChanges> changes; // null while there are none, as of most
+        int listings = 0;                        // under way
         bool moved = false;
         bool unmounted = false;
         bool reset = false;
     };
+    using Records = QMap<QByteArray, Record>; // by path: what is below a directory stands together
+
     bool takeNewsOf(const QByteArray &directory, Record *record, qint64 now, size_t most, DirectoryNews *news);
 
     mutable std::mutex m_mutex;
-    QHash<QByteArray, Record> m_records; // by path
+    Records m_records;
+    std::set<QByteArray> m_withNews; // what is not there any more is left out; those above come first
+    int m_usedAtSweep = 0;
 };
 
 } // namespace VeskFM
