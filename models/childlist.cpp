@@ -32,8 +32,10 @@ int ChildList::indexOf(const ModelItem *item) const
     const ChildBlock *const block = item->m_block;
     if (!block || block->position >= m_blocks.size() || m_blocks[block->position].get() != block)
         return -1; // in no list, or in another one
-    const auto found = std::find(block->items.begin(), block->items.end(), item);
-    return m_starts[block->position] + int(found - block->items.begin());
+    // Views ask for the same rows over and over, for each index that they keep whenever another row comes or goes.
+    if (item->m_place >= block->items.size() || block->items[item->m_place] != item)
+        item->m_place = quint16(std::find(block->items.begin(), block->items.end(), item) - block->items.begin());
+    return m_starts[block->position] + item->m_place;
 }
 
 void ChildList::insert(int row, ModelItem *item)
