@@ -3,63 +3,22 @@
 
 #include "scoreboard.h"
 
+#include "figures.h"
 #include "generatedtree.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QHash>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QTextStream>
-#include <QVector>
-
-#include <algorithm>
 
 namespace
 {
 
-using Figures = QHash<QString, QVector<double>>;
-
 constexpr int runs = 5;
-
-/// One measure in a fresh process; its figures join those of the runs before.
-bool measure(const QString &name, const QString &directory, Figures *figures)
-{
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--measure"), name, directory});
-    if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
-        return false;
-    const QJsonObject result = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
-    for (auto figure = result.begin(); figure != result.end(); ++figure)
-        (*figures)[figure.key()].append(figure.value().toDouble());
-    return true;
-}
 
 bool measureAll(const QString &directory, Figures *figures)
 {
     return measure(QStringLiteral("floor"), directory, figures)
         && measure(QStringLiteral("listing"), directory, figures)
         && measure(QStringLiteral("changes"), directory, figures);
-}
-
-double median(QVector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.value(values.size() / 2);
-}
-
-QString rounded(double value)
-{
-    return QString::number(value, 'f', value < 10 ? 2 : value < 100 ? 1 : 0);
-}
-
-QString summary(const QVector<double> &values)
-{
-    return QStringLiteral("{\"median\":%1,\"min\":%2,\"max\":%3}")
-        .arg(rounded(median(values)), rounded(*std::min_element(values.begin(), values.end())),
-             rounded(*std::max_element(values.begin(), values.end())));
 }
 
 QString jsonLine(int size, const Figures &figures)
