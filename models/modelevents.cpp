@@ -38,7 +38,9 @@ void ModelPrivate::onDirListed(const Entry &entry, VFS::EntryChildFilters filter
     if (filters != childFilters()) // the watcher answers every model: another one asked for this listing
         return;
     forEachShowing(entry, [&](ModelItem *item) {
-        if (!item->isChildsInited())
+        // Rows that a flat model has below its rows, from listings for others, have no index to announce more under.
+        const bool isReached = item == root.get() || indexOfItem(item).internalPointer() == item;
+        if (isReached && !item->isChildsInited())
             addListedChildren(item, children);
     });
 }
