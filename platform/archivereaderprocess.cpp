@@ -56,7 +56,10 @@ pid_t start(const QStringList &arguments, int input, int output)
 
 void end(pid_t pid)
 {
-    kill(pid, SIGKILL); // where it has ended by itself, nothing
+    // Its id is its own as long as nobody has asked for its end; the process may be set up to have it forgotten at once.
+    if (waitpid(pid, nullptr, WNOHANG) != 0)
+        return;
+    kill(pid, SIGKILL);
     while (waitpid(pid, nullptr, 0) < 0 && errno == EINTR) {}
 }
 } // namespace

@@ -18,6 +18,12 @@ ArchiveTree::ArchiveTree(const QString &archive, const ArchiveIdentity &identity
     , m_mountPath(LocalArchiveMounts::instance().mountPathOf(archive, identity))
     , m_nodes(1)
 {
+    LocalArchiveMounts::instance().addListing(m_mountPath);
+}
+
+ArchiveTree::~ArchiveTree()
+{
+    LocalArchiveMounts::instance().removeListing(m_mountPath);
 }
 
 bool ArchiveTree::add(const ArchiveNodeRecord &record)

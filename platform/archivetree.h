@@ -20,6 +20,8 @@ class ArchiveTree
 {
 public:
     ArchiveTree(const QString &archive, const ArchiveIdentity &identity);
+    ~ArchiveTree();
+    Q_DISABLE_COPY_MOVE(ArchiveTree)
 
     bool add(const ArchiveNodeRecord &record); ///< false for one that cannot be, as a reader gone wrong might write it
     bool finish();                             ///< false when links lead nowhere

@@ -151,11 +151,29 @@ QString LocalArchiveMounts::archivePathOf(const QString &localPath) const
 
 void LocalArchiveMounts::refMountPath(const QString &path)
 {
-    if (const Job job = ref(path))
+    if (const Job job = ref(path, false))
         job->wait(isGuiThread() ? guiWaitMs : -1, {});
 }
 
 LocalArchiveMounts::Job LocalArchiveMounts::ref(const QString &mount)
+{
+    return ref(mount, true);
+}
+
+void LocalArchiveMounts::addListing(const QString &mount)
+{
+    const Lock lock(m_mutex);
+    ++m_mounts[mount].listings;
+}
+
+void LocalArchiveMounts::removeListing(const QString &mount)
+{
+    const Lock lock(m_mutex);
+    --m_mounts[mount].listings;
+}
+
+/// @param isNeeded whether it is to be extracted though nobody has looked into it
+LocalArchiveMounts::Job LocalArchiveMounts::ref(const QString &mount, bool isNeeded)
 {
     const Lock lock(m_mutex);
     const auto record = m_mounts.find(mount);
@@ -163,7 +181,7 @@ LocalArchiveMounts::Job LocalArchiveMounts::ref(const QString &mount)
         return nullptr;
     ++record->references;
     const bool hasFailed = record->job && record->job->isFinished() && record->job->error() != ArchiveError::None;
-    if (!record->job || hasFailed) {
+    if ((!record->job || hasFailed) && (isNeeded || record->listings > 0)) {
         start();
         const auto job = std::make_shared<ArchiveJob>();
         record->job = job;

@@ -36,7 +36,8 @@ public:
     /// @param path of the disk; need not exist
     QString mountPath(const QString &path) const override;
     /// Extracts the archive with its first reference, and waits until that is done or has failed. On the application's own
-    /// thread it waits for a moment only, and the extraction goes on.
+    /// thread it waits for a moment only, and the extraction goes on. An archive that nobody has looked into is not
+    /// extracted: who copies the archive itself refers to its mount, too, and nothing in there can be meant.
     void refMountPath(const QString &path) override;
     void unrefMountPath(const QString &path) override;
 
@@ -47,8 +48,13 @@ public:
     /// The VFS path of what is at a place in one of our mounts; empty for any other path.
     QString archivePathOf(const QString &localPath) const;
 
-    /// Like refMountPath() and returns at once; null for a path that is no mount point. To be followed by one unref.
+    /// Takes a reference, has the archive extracted, and returns at once; null for a path that is no mount point. To be
+    /// followed by one unref.
     Job ref(const QString &mount);
+
+    /// Of the listings of an archive that somebody has: those who hold something in it.
+    void addListing(const QString &mount);
+    void removeListing(const QString &mount);
 
 private:
     struct Mount
@@ -56,10 +62,12 @@ private:
         QString archive;
         ArchiveIdentity identity;
         int references = 0;
+        int listings = 0;
         Job job; // of the latest extraction; null when there is none
     };
 
     LocalArchiveMounts();
+    Job ref(const QString &mount, bool isNeeded);
     void start();
     void stop();
     static void stopRunning();

@@ -34,6 +34,14 @@ private:
     Source m_source;
 };
 
+/// A program that extracts itself ends with the archive.
+bool isProgram(const QByteArray &start)
+{
+    return start.startsWith("MZ") || start.startsWith("#!")
+        || start.startsWith("\x7f"
+                            "ELF");
+}
+
 /// What a tar archive is read from, given the first bytes of the file.
 std::unique_ptr<ByteSource> unpacked(const QByteArray &start, int descriptor, qint64 size, qint64 limit)
 {
@@ -60,7 +68,7 @@ std::unique_ptr<MemberReader> openArchive(int descriptor, qint64 size, const Arc
     constexpr int longestMagic = 6;
     QByteArray start(longestMagic, '\0');
     FileSource(descriptor, 0, size).readFully(start.data(), start.size());
-    if (start.startsWith("PK\x03\x04") || start.startsWith("PK\x05\x06"))
+    if (start.startsWith("PK\x03\x04") || start.startsWith("PK\x05\x06") || isProgram(start))
         return std::make_unique<ZipReader>(descriptor, size);
     if (start.startsWith("7z\xbc\xaf\x27\x1c"))
         return std::make_unique<SevenZipReader>(descriptor, size, limits.entries);
