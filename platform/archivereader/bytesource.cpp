@@ -12,6 +12,11 @@
 namespace VeskFM
 {
 
+namespace
+{
+constexpr qint64 bufferSize = 8192;
+}
+
 ByteSource::~ByteSource() = default;
 
 bool ByteSource::skip(qint64 size)
@@ -57,16 +62,34 @@ FileSource::FileSource(int descriptor, qint64 begin, qint64 size)
 {
 }
 
+qint64 FileSource::readPart(char *data, qint64 size) const
+{
+    ssize_t count = 0;
+    do
+        count = pread(m_descriptor, data, size_t(size), m_begin + m_position);
+    while (count < 0 && errno == EINTR);
+    return count;
+}
+
 qint64 FileSource::read(char *data, qint64 size)
 {
     size = std::min(size, m_size - m_position);
     if (size <= 0)
         return 0;
-    ssize_t count = 0;
-    do
-        count = pread(m_descriptor, data, size_t(size), m_begin + m_position);
-    while (count < 0 && errno == EINTR);
-    m_position += std::max<ssize_t>(count, 0);
+    qint64 count = 0;
+    if (size >= bufferSize) {
+        count = readPart(data, size);
+    } else {
+        if (m_position < m_bufferBegin || m_position >= m_bufferBegin + m_bufferSize) {
+            m_buffer.resize(size_t(bufferSize));
+            m_bufferBegin = m_position;
+            m_bufferSize = readPart(m_buffer.data(), std::min(bufferSize, m_size - m_position));
+        }
+        count = std::min(size, m_bufferBegin + m_bufferSize - m_position);
+        if (count > 0)
+            std::copy_n(m_buffer.data() + (m_position - m_bufferBegin), count, data);
+    }
+    m_position += std::max<qint64>(count, 0);
     return count;
 }
 

@@ -5,6 +5,8 @@
 
 #include <QtGlobal>
 
+#include <vector>
+
 namespace VeskFM
 {
 
@@ -38,10 +40,15 @@ public:
     bool finish() override { return true; } ///< it has none
 
 private:
+    qint64 readPart(char *data, qint64 size) const;
+
     const int m_descriptor;
     const qint64 m_begin;
     const qint64 m_size;
     qint64 m_position = 0;
+    std::vector<char> m_buffer; // headers are small and many
+    qint64 m_bufferBegin = 0;
+    qint64 m_bufferSize = 0;
 };
 
 } // namespace VeskFM

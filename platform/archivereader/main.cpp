@@ -26,6 +26,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <exception>
 
 using namespace VeskFM;
 
@@ -53,7 +54,8 @@ void confine(const ArchiveLimits &limits)
     setLimit(RLIMIT_FSIZE, rlim_t(limits.unpackedBytes));
     if (limitsMemory)
         setLimit(RLIMIT_AS, rlim_t(limits.memoryBytes));
-    std::signal(SIGXFSZ, SIG_IGN); // a write fails instead
+    std::signal(SIGXFSZ, SIG_IGN);                                // a write fails instead
+    std::set_terminate([] { _exit(int(ArchiveError::Failed)); }); // there is no memory left, nor anything to be said
     prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
 }
 
