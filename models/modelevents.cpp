@@ -38,9 +38,7 @@ void ModelPrivate::onDirListed(const Entry &entry, VFS::EntryChildFilters filter
     if (filters != childFilters()) // the watcher answers every model: another one asked for this listing
         return;
     forEachShowing(entry, [&](ModelItem *item) {
-        // Rows that a flat model has below its rows, from listings for others, have no index to announce more under.
-        const bool isReached = item == root.get() || indexOfItem(item).internalPointer() == item;
-        if (isReached && !item->isChildsInited())
+        if (!item->isChildsInited())
             addListedChildren(item, children);
     });
 }
@@ -99,6 +97,8 @@ bool ModelPrivate::announceRows(ModelItem *item, const std::vector<ModelItem *> 
     if (rows.size() == former.size())
         return true;
     const QModelIndex parent = indexOfItem(item);
+    if (!parent.isValid() && item != root.get())
+        return true; // from a listing for others, too deep for a flat model to have an index
     const int removals = m_removals;
     const auto announce = [&](size_t first, size_t end) {
         if (first < end) {
