@@ -16,7 +16,7 @@ constexpr qint64 largestInfo = 64 * 1024; // bytes; the longest path takes three
 
 bool isTrustworthy(const QByteArray &path)
 {
-    if (!path.startsWith('/') || path.endsWith('/'))
+    if (path.isEmpty() || path.endsWith('/'))
         return false;
     const QList<QByteArray> sections = path.split('/');
     return !sections.contains("..") && !sections.contains(".");
@@ -30,7 +30,7 @@ qint64 secondsSinceEpoch(const QByteArray &text)
 
 } // namespace
 
-bool TrashInfo::read(const QByteArray &file)
+bool TrashInfo::read(const QByteArray &file, const QByteArray &top)
 {
     QByteArray content;
     if (!readSmallFile(file, largestInfo, &content, false))
@@ -48,7 +48,10 @@ bool TrashInfo::read(const QByteArray &file)
             date = line.mid(13);
     }
     deletionDate = secondsSinceEpoch(date);
-    return isTrustworthy(path);
+    if (!isTrustworthy(path) || path.startsWith('/') != top.isEmpty())
+        return false;
+    path.prepend(top.isEmpty() || top.endsWith('/') ? top : top + '/');
+    return true;
 }
 
 QByteArray TrashInfo::toText() const

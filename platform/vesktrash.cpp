@@ -4,9 +4,9 @@
 #include <veskplatform/vesktrash.h>
 
 #include "smallfile.h"
+#include "trashdir.h"
 #include "trashdirsizes.h"
 #include "trashinfo.h"
-#include "xdgdirs.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -27,7 +27,6 @@
 namespace
 {
 
-const QByteArray infoSuffix = QByteArrayLiteral(".trashinfo");
 constexpr int longestName = 255;  // bytes, of any file name
 constexpr int numberedNames = 20; // random ones follow, so that a common name does not get slower and slower
 constexpr int triedNames = 100;
@@ -36,17 +35,17 @@ QMutex dirSizesMutex; // one at a time reads, changes and replaces the file of d
 
 QByteArray topDir()
 {
-    return xdgDataHome() + "/Trash";
+    return TrashDir::home().path;
 }
 
 QByteArray filesDir()
 {
-    return topDir() + "/files";
+    return TrashDir::home().filesDir();
 }
 
 QByteArray infoFile(const QByteArray &name)
 {
-    return topDir() + "/info/" + name + infoSuffix;
+    return TrashDir::home().infoFile(name);
 }
 
 QByteArray dirSizesFile()
@@ -106,16 +105,26 @@ QByteArray resolvedItem(const QByteArray &item)
     return (parent == "/" ? QByteArray() : parent) + '/' + nameOf(item);
 }
 
-// The name in the trash of an item that lies directly in it; else empty.
-QByteArray nameInTrash(const std::string &path)
+struct TrashedItem
+{
+    TrashDir trash; // null when the item lies in none, or deeper in one
+    QByteArray name;
+
+    QByteArray infoFile() const { return trash.infoFile(name); }
+};
+
+TrashedItem trashedItem(const std::string &path)
 {
     const QByteArray item = itemPath(path);
     if (item.isEmpty())
         return {};
     const QByteArray parent = parentOf(item);
-    const bool isThere =
-        parent == filesDir() || (!resolved(parent).isEmpty() && resolved(parent) == resolved(filesDir()));
-    return isThere ? nameOf(item) : QByteArray();
+    return {parent == filesDir() ? TrashDir::home() : TrashDir::holding(resolved(parent)), nameOf(item)};
+}
+
+bool readInfo(const TrashedItem &item, TrashInfo *info)
+{
+    return !item.trash.isNull() && info->read(item.infoFile(), item.trash.top);
 }
 
 // "name.txt", "name.2.txt", ...; short enough for the name of its ".trashinfo" file, and cut between characters.
@@ -130,7 +139,7 @@ QByteArray candidateName(const QByteArray &name, int attempt)
     else if (attempt > 0)
         tail.prepend('.' + QByteArray::number(attempt + 1));
     QByteArray stem = hasExtension ? name.left(dot) : name;
-    const int room = longestName - infoSuffix.size() - tail.size();
+    const int room = longestName - TrashDir::infoSuffix().size() - tail.size();
     if (stem.size() > room) {
         int end = room;
         while (end > 1 && (uchar(stem.at(end)) & 0xC0) == 0x80)
@@ -251,24 +260,23 @@ std::string VeskTrash::registerFile(const std::string &path)
 
 bool VeskTrash::unregisterFile(const std::string &path)
 {
-    const QByteArray name = nameInTrash(path);
-    return !name.isEmpty() && unlink(infoFile(name).constData()) == 0;
+    const TrashedItem item = trashedItem(path);
+    return !item.trash.isNull() && unlink(item.infoFile().constData()) == 0;
 }
 
 std::string VeskTrash::getFilePathToRestore(const std::string &path)
 {
-    const QByteArray name = nameInTrash(path);
+    const TrashedItem item = trashedItem(path);
     TrashInfo info;
-    if (name.isEmpty() || !info.read(infoFile(name)) || isSameOrBelow(info.path, topDir()))
+    if (!readInfo(item, &info) || isSameOrBelow(info.path, item.trash.path))
         return {};
     return toResult(info.path);
 }
 
 long long VeskTrash::getDeletionDate(const std::string &path)
 {
-    const QByteArray name = nameInTrash(path);
     TrashInfo info;
-    return !name.isEmpty() && info.read(infoFile(name)) ? info.deletionDate : 0;
+    return readInfo(trashedItem(path), &info) ? info.deletionDate : 0;
 }
 
 bool VeskTrash::isFileInTrash(const std::string &path)
@@ -276,12 +284,18 @@ bool VeskTrash::isFileInTrash(const std::string &path)
     const QByteArray item = itemPath(path);
     if (item.isEmpty())
         return false;
-    const QByteArray files = filesDir();
-    if (parentOf(item) == files)
+    if (parentOf(item) == filesDir())
         return true;
     const QByteArray real = resolvedItem(item);
-    const QByteArray realFiles = resolved(files);
-    return real.startsWith((realFiles.isEmpty() ? files : realFiles) + '/');
+    const QByteArray realFiles = resolved(filesDir());
+    if (real.startsWith((realFiles.isEmpty() ? filesDir() : realFiles) + '/'))
+        return true;
+    const QByteArray step = QByteArrayLiteral("/files/"); // in the trash of another mount
+    for (int at = real.indexOf(step); at >= 0; at = real.indexOf(step, at + 1)) {
+        if (!TrashDir::holding(real.left(at + step.size() - 1)).isNull())
+            return true;
+    }
+    return false;
 }
 
 bool VeskTrash::isEmpty()

@@ -99,6 +99,9 @@ private Q_SLOTS:
     void refuses_data();
     void refuses();
     void trashesAndRestores();
+    void forgetsItemsThatNeverCame();
+    void restoresFromTheTrashOfAnotherMount_data();
+    void restoresFromTheTrashOfAnotherMount();
     void removesLinksNotTheirTargets();
     void makesThings();
     void leavesNothingWhenTheDiskIsFull();
@@ -259,6 +262,55 @@ void FopsHostTest::trashesAndRestores()
     QVERIFY(FOps::isEmptyTrash());
     QVERIFY(QDir(StandardPaths::trashDirPath() + "/../info").isEmpty());
     QVERIFY(!tree.entry("kept").isNull());
+}
+
+void FopsHostTest::forgetsItemsThatNeverCame()
+{
+    const QString infos = QDir::cleanPath(StandardPaths::trashDirPath() + "/../info/");
+    const timespec longAgo[] = {{1000000000, 0}, {1000000000, 0}};
+    for (const char *name : {"/old.trashinfo", "/young.trashinfo", "/old.txt"}) {
+        QFile info(infos + name);
+        QVERIFY(info.open(QIODevice::WriteOnly));
+        if (name[1] == 'o')
+            QCOMPARE(futimens(info.handle(), longAgo), 0);
+    }
+    QCOMPARE(run(&FOps::cleanTrash).code, int(Success));
+    QCOMPARE(QDir(infos).entryList(QDir::Files), QStringList({"old.txt", "young.trashinfo"})); // may be on its way
+    QVERIFY(QDir(infos).removeRecursively());
+}
+
+void FopsHostTest::restoresFromTheTrashOfAnotherMount_data()
+{
+    QTest::addColumn<QByteArray>("origin"); // NAME for that of the tree at the top of the mount
+    QTest::addColumn<int>("code");
+    QTest::newRow("relative to the mount") << QByteArray("NAME/dir/back.txt") << int(Success);
+    QTest::newRow("absolute") << QByteArray("/dev/shm/NAME/dir/back.txt") << int(NotFound);
+    QTest::newRow("climbs") << QByteArray("NAME/../NAME/dir/back.txt") << int(NotFound);
+}
+
+void FopsHostTest::restoresFromTheTrashOfAnotherMount()
+{
+    QFETCH(QByteArray, origin);
+    QFETCH(int, code);
+    const std::unique_ptr<TestTree> tree = FopsClient::treeElsewhere();
+    if (!tree)
+        QSKIP("There is no other file system here");
+    const QFileInfo top(tree->path());
+    const QDir trash(top.path() + "/.Trash-" + QString::number(getuid()));
+    QVERIFY(trash.mkpath("files") && trash.mkpath("info"));
+    const QString item = trash.filePath("files/" + top.fileName()), info = trash.filePath("info/" + top.fileName());
+    QFile file(info + ".trashinfo");
+    QVERIFY(QFile::copy("/etc/passwd", item) && file.open(QIODevice::WriteOnly));
+    file.write("[Trash Info]\nPath=" + origin.replace("NAME", top.fileName().toUtf8()) + "\nDeletionDate=x\n");
+    file.close();
+    QVERIFY(FOps::isTrashEntries(EntryList(VFS::ptr()->entry(item))));
+    QCOMPARE(run(&FOps::restore, EntryList(VFS::ptr()->entry(item))).code, code);
+    QCOMPARE(tree->entry("dir/back.txt").isNull(), code != Success);
+    QCOMPARE(QFile::exists(item) && file.exists(), code != Success);
+    QFile::remove(item);
+    file.remove();
+    for (const char *name : {"files", "info", ""})
+        QDir().rmdir(trash.filePath(name)); // if nobody else has put something into it
 }
 
 void FopsHostTest::removesLinksNotTheirTargets()

@@ -111,6 +111,8 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(QFile::decodeName(files + "/dir")));
         QVERIFY(QFile::link(QFile::decodeName(home), QFile::decodeName(home + "/link")));
         QVERIFY(QFile::link(QFile::decodeName(home), QFile::decodeName(files + "/out")));
+        const QByteArray likeTrash = home + "/.Trash-" + QByteArray::number(getuid()) + "/files";
+        QVERIFY(QDir().mkpath(QFile::decodeName(likeTrash)));
         const struct
         {
             const char *what;
@@ -127,6 +129,7 @@ private Q_SLOTS:
             {"climbs out of something missing", files + "/none/../../../x", false},
             {"the trash itself", files, false},
             {"neighbour with the same beginning", top + "/files2/x", false},
+            {"what is like a trash at the top of no mount", likeTrash + "/x", false},
             {"nothing", {}, false},
         };
         for (const auto &row : rows)

@@ -4,6 +4,7 @@
 #include "removeoperation.h"
 
 #include "directoryreader.h"
+#include "orphaninfos.h"
 #include "treeremover.h"
 
 #include <veskplatform/standardpaths.h>
@@ -69,4 +70,5 @@ void CleanTrashOperation::run()
             return;
         progress().add(Progress::unitsPerNode);
     }
+    removeOrphanInfos();
 }

@@ -4,6 +4,7 @@
 #include "trashoperation.h"
 
 #include "freename.h"
+#include "orphaninfos.h"
 #include "treemover.h"
 
 #include <veskplatform/standardpaths.h>
@@ -15,6 +16,7 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <mutex>
 
 #include <gio/gio.h>
 
@@ -92,6 +94,8 @@ TrashOperation::TrashOperation(const QString &stamp, const QStringList &entries,
 
 void TrashOperation::run()
 {
+    static std::once_flag isTidy; // once for each service is enough
+    std::call_once(isTidy, removeOrphanInfos);
     note(m_entries.isEmpty() ? Result::NotFound : Result::Success);
     progress().setTotal(m_entries.size() * Progress::unitsPerNode);
     for (const QString &entry : m_entries) {

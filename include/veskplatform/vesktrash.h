@@ -9,6 +9,9 @@
 
 /// Book-keeping of the user's trash after the Trash specification 1.0 of freedesktop.org.
 ///
+/// Of the trash directories of other mounts it knows the items, where they came from and when they were deleted; it
+/// counts and fills only the user's own one.
+///
 /// Paths are in the local 8-bit encoding, results in UTF-8. A failure gives an empty text, false or 0.
 ///
 /// Thread: any.
