@@ -12,8 +12,8 @@ struct TrashInfo
     QByteArray path;         ///< where the item came from: absolute, exact bytes
     qint64 deletionDate = 0; ///< seconds since the Unix epoch; 0 when missing or not readable
 
-    /// Reads @p file. Its path must be relative to @p top, or absolute when that is empty. False when it is missing, not a small regular file or has no trustworthy path: anybody may have
-    /// written it, and what it names will be written to.
+    /// Reads @p file. Its path must be relative to @p top, or absolute when that is empty. False when it is missing, not a
+    /// small regular file or has no trustworthy path: anybody may have written it, and what it names will be written to.
     bool read(const QByteArray &file, const QByteArray &top = {});
     QByteArray toText() const;
 };

@@ -118,7 +118,7 @@ private:
     ModelItem *const m_parent;
     quint8 m_flags = 0;
     mutable quint16 m_place = 0; // in its block, when that was last asked; ChildList's
-    uint m_hash = 0; // of the entry, while the item stands in its model's index
+    uint m_hash = 0;             // of the entry, while the item stands in its model's index
     PropertyDataHolder *m_dataHolder = nullptr;
     std::unique_ptr<ChildList> m_children; // null when there never was a child
     ChildBlock *m_block = nullptr;         // where the parent keeps this item; null when it does not
