@@ -43,7 +43,7 @@ using namespace VeskFM;
 namespace
 {
 constexpr int messageTimeMs = 5000;
-constexpr int panelWidth = 200; // pixels
+constexpr int panelWidth = 250; // pixels
 } // namespace
 
 MainWindow::MainWindow(QWidget *parent)
