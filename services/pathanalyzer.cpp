@@ -138,7 +138,8 @@ bool PathAnalyzer::count(QAtomicInt *cancel)
 
 bool PathAnalyzer::countEntry(const Entry &entry, QAtomicInt *cancel)
 {
-    constexpr VFS::EntryChildFilters filters(VFS::RecursiveListing | VFS::NoArchiveDescent | VFS::ArchivesAsFiles);
+    // Not the listing for walks, which leaves every size to be asked for by a path of its own.
+    constexpr VFS::EntryChildFilters filters(VFS::ArchivesAsFiles);
     EntryList pending(entry); // a list instead of recursion: trees may be deep
     while (!pending.isEmpty()) {
         if (isSet(cancel))
