@@ -7,12 +7,10 @@
 #include "archivelimits.h"
 #include "archiveproblems.h"
 #include "archivereaderprocess.h"
-
-#include <QCoreApplication>
+#include "callatend.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 
 namespace VeskFM
 {
@@ -45,9 +43,7 @@ void ArchiveListings::start()
     if (m_isRunning)
         return;
     m_isRunning = true;
-    qAddPostRoutine(stopRunning);
-    static const int registered = std::atexit(stopRunning); // for a process that never deletes its application object
-    Q_UNUSED(registered);
+    callAtEnd<stopRunning>();
 }
 
 void ArchiveListings::stop()

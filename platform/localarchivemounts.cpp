@@ -7,11 +7,11 @@
 #include "archivelimits.h"
 #include "archiveproblems.h"
 #include "archivereaderprocess.h"
+#include "callatend.h"
 #include "guithread.h"
 #include "pathcodec.h"
 #include "removetree.h"
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QFile>
 
@@ -22,7 +22,6 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 
 namespace VeskFM
 {
@@ -66,9 +65,7 @@ void LocalArchiveMounts::start()
     if (m_isRunning)
         return;
     m_isRunning = true;
-    qAddPostRoutine(stopRunning);
-    static const int registered = std::atexit(stopRunning); // for a process that never deletes its application object
-    Q_UNUSED(registered);
+    callAtEnd<stopRunning>();
 }
 
 void LocalArchiveMounts::stop()

@@ -4,12 +4,12 @@
 #include "localentrywatcher.h"
 
 #include "archivenodes.h"
+#include "callatend.h"
 #include "deferredentrydata.h"
 #include "localentrydata.h"
 #include "localvfs.h"
 #include "pathcodec.h"
 
-#include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <sys/inotify.h>
@@ -17,7 +17,6 @@
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
-#include <cstdlib>
 
 namespace VeskFM
 {
@@ -100,9 +99,7 @@ void LocalEntryWatcher::start()
     m_running = true;
     m_cancel.storeRelaxed(0);
     runningWatcher = this;
-    qAddPostRoutine(stopRunning);
-    static const int registered = std::atexit(stopRunning); // for a process that never deletes its application object
-    Q_UNUSED(registered);
+    callAtEnd<stopRunning>();
     if (m_reader.open())
         m_reader.start();
 }
