@@ -255,8 +255,6 @@ EntryBaseStatePtr EntryBaseState::prepared(const Entry &entry)
                 return published(std::move(state));
             }
             state.mimeType = directoryMimeType();
-        } else if (entry.isArchiveMountPoint()) {
-            state.mimeType = mimeTypeForFile(entry.path(), false); // its icon is fixed: no refinement will tell it
         }
         if (entry.isFSRoot())
             state.displayName = QStringLiteral("/");
@@ -290,8 +288,12 @@ EntryBaseStatePtr EntryBaseState::refined(const EntryBaseState &before, const En
         takeDirectory(state, entry);
         return published(std::move(state));
     }
-    if (!placeIconName(entry).isEmpty())
-        return {}; // a fixed icon, set by the preparation
+    if (!placeIconName(entry).isEmpty()) { // a fixed icon, set by the preparation
+        if (!entry.isArchiveMountPoint() || !state.mimeType.isEmpty())
+            return {};
+        state.mimeType = mimeTypeForFile(entry.path(), false);
+        return published(std::move(state));
+    }
     if (!entry.isExists() || isDeadLink(entry)) {
         state.icon = IconRecipe();
         state.icon.name = QStringLiteral("dialog-cancel");
