@@ -3,12 +3,11 @@
 
 #pragma once
 
-#include <QRegularExpression>
-#include <QStringList>
-#include <QStringMatcher>
-#include <QVector>
+#include "wildcard.h"
 
-/// Holds names against wildcard patterns, in any case. Quick enough to be asked a million times. Thread: any.
+#include <QStringList>
+
+/// Holds names against wildcard patterns. Thread: any.
 class NameMatcher
 {
 public:
@@ -18,7 +17,5 @@ public:
 
 private:
     bool m_matchesAll;
-    QVector<QStringMatcher> m_parts; // the usual patterns, "*part*" and "*end", are quicker without an expression
-    QStringList m_ends;
-    QRegularExpression m_expression; // for the others; empty for none
+    std::vector<Wildcard> m_patterns;
 };

@@ -62,8 +62,9 @@ bool WalkedEntryData::is(EntryTrait trait) const
     case EntryTrait::SymLink:
     case EntryTrait::Hidden:
         return known().is(trait);
+    case EntryTrait::Dir: // walks ask it of every entry, and a file that passes for an archive is none either way
+        return isLink() ? looked().is(trait) : known().is(trait);
     case EntryTrait::File:
-    case EntryTrait::Dir:
         return mayBeArchive() ? looked().is(trait) : known().is(trait);
     case EntryTrait::Exists:
     case EntryTrait::Executable:

@@ -7,6 +7,7 @@
 #include "selectiondescription.h"
 #include "settingsdialog.h"
 #include "testtree.h"
+#include "wildcard.h"
 
 #include <veskfm/corepluginsmanager.h>
 #include <veskfm/settings.h>
@@ -51,6 +52,33 @@ class DialogsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void matchesNames_data()
+    {
+        QTest::addColumn<QString>("pattern");
+        QTest::addColumn<QStringList>("matching");
+        QTest::addColumn<QStringList>("others");
+        using Names = QStringList;
+        QTest::newRow("end") << "*.jpg" << Names{"a.JPG", ".jpg", "a\n.jpg"} << Names{"a.jpg~", "jpg", ""};
+        QTest::newRow("middle") << "a*bc*bc" << Names{"abcbc", "axbcbcbc"} << Names{"abc", "abcb"};
+        QTest::newRow("whole") << "Ünï" << Names{"üNÏ"} << Names{"ün", "üns", "xünï"};
+        QTest::newRow("one") << "?.?" << Names{"a.b", QString::fromUtf8("😀.é")} << Names{".b", "ab.c"};
+        QTest::newRow("set") << "[x-zA][!0-9]" << Names{"yb", "a-", "X]"} << Names{"bb", "a1", "y"};
+        QTest::newRow("set with a bracket") << "[]]*" << Names{"]"} << Names{"[", "[]"};
+        QTest::newRow("no set") << "[a*" << Names{"[A", "[ab"} << Names{"a"};
+        QTest::newRow("stars") << "**a**" << Names{"a", "bab"} << Names{"", "b"};
+    }
+
+    void matchesNames()
+    {
+        QFETCH(QString, pattern);
+        QFETCH(QStringList, matching);
+        QFETCH(QStringList, others);
+        const Wildcard wildcard(pattern);
+        const auto matches = [&wildcard](const QString &name) { return wildcard.matches(name); };
+        QVERIFY(std::all_of(matching.cbegin(), matching.cend(), matches));
+        QVERIFY(std::none_of(others.cbegin(), others.cend(), matches));
+    }
+
     void finds()
     {
         TestTree tree({"sub/d.jpg", "sub/.hidden.png"});
