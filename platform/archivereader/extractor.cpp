@@ -7,7 +7,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 
 namespace VeskFM
@@ -36,16 +35,17 @@ struct Times
     }
 };
 
-bool writeFully(int file, const char *data, qint64 size)
+bool writeFully(int file, ArchiveBlock block)
 {
-    while (size > 0) {
-        const ssize_t count = write(file, data, size_t(size));
+    while (block.size > 0) {
+        const ssize_t count = pwrite(file, block.data, size_t(block.size), block.offset);
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
             return false;
-        data += count;
-        size -= count;
+        block.data += count;
+        block.size -= count;
+        block.offset += count;
     }
     return true;
 }
@@ -116,22 +116,20 @@ ArchiveError Extractor::makeFile(MemberReader *reader, int node)
 
 ArchiveError Extractor::copyContent(MemberReader *reader, int file, qint64 size)
 {
-    std::array<char, 262144> buffer;
-    qint64 left = size;
-    while (true) {
-        const qint64 count = reader->read(buffer.data(), qint64(buffer.size()));
-        if (count < 0)
-            return reader->error();
-        if (count == 0)
-            return left == 0 ? ArchiveError::None : ArchiveError::Damaged;
-        left -= count;
-        m_done += count;
-        if (left < 0)
-            return ArchiveError::Damaged; // by what it told of itself, it would end here
-        if (!writeFully(file, buffer.data(), count))
+    const qint64 before = m_done;
+    ArchiveBlock block;
+    while (reader->read(&block)) {
+        if (block.size > size - block.offset)
+            return ArchiveError::Damaged; // by what it told of itself when it was listed
+        if (!writeFully(file, block))
             return writingError();
-        m_progress(m_done);
+        m_progress(before + block.offset + block.size);
     }
+    if (reader->error() != ArchiveError::None)
+        return reader->error();
+    m_done = before + size;
+    const bool isHoleLeft = block.offset + block.size < size;
+    return !isHoleLeft || ftruncate(file, size) == 0 ? ArchiveError::None : writingError();
 }
 
 ArchiveError Extractor::makeLinks()

@@ -12,8 +12,8 @@
 
 #include "../archivelimits.h"
 #include "extractor.h"
+#include "memberreader.h"
 #include "membertree.h"
-#include "openarchive.h"
 #include "output.h"
 
 #include <QFile>
@@ -99,9 +99,9 @@ ArchiveError work(const Request &request, Output *output)
     struct stat facts = {};
     if (file < 0 || fstat(file, &facts) != 0 || !S_ISREG(facts.st_mode))
         return ArchiveError::Unreadable;
-    const std::unique_ptr<MemberReader> reader = openArchive(file, facts.st_size, request.limits);
+    MemberReader reader(file, facts.st_size, request.limits);
     MemberTree tree(request.limits);
-    ArchiveError error = tree.build(reader.get());
+    ArchiveError error = tree.build(&reader);
     if (error != ArchiveError::None)
         return error;
     if (!request.isExtraction) {
@@ -114,14 +114,14 @@ ArchiveError work(const Request &request, Output *output)
     const qint64 total = tree.unpackedBytes();
     Extractor extractor(tree, directory, request.limits.unpackedBytes,
                         [&](qint64 done) { output->writeProgress(done, total); });
-    return extractor.extract(reader.get());
+    return extractor.extract(&reader);
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    // No application object: there is no event loop, and nothing here depends on a locale.
+    // No application object: there is no event loop, and nothing here depends on the locale of the user.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {}); // damage is told once, by us
     QStringList arguments;

@@ -3,54 +3,55 @@
 
 #pragma once
 
-#include "../archiveerror.h"
+#include "../archivelimits.h"
+#include "archivehandle.h"
+#include "archivemember.h"
+#include "filesource.h"
+#include "unpackedstream.h"
 
-#include <QByteArray>
+#include <memory>
+
+struct archive_entry;
 
 namespace VeskFM
 {
 
-/// One member of an archive, as the archive has it: nothing in it can be trusted.
-struct ArchiveMember
-{
-    enum Kind {
-        File,
-        Dir,
-        SymLink,
-        HardLink, ///< another name of an earlier member
-        Other     ///< a device, a pipe
-    };
-    QByteArray name;
-    Kind kind = File;
-    qint64 size = 0; ///< bytes
-    bool isExecutable = false;
-    qint64 modifiedMs = 0; ///< since 1970; 0 when it is not told
-    QByteArray target;     ///< of a link: a path from its directory, of a hard link from the top of the archive
-};
-
-/// Reads the members of an archive from the first to the last, without going back.
+/// Reads the members of a zip, 7z or tar archive, of the kind that its content tells, from the first to the last. A tar
+/// archive may be compressed.
+///
+/// To list is not to unpack, except for a compressed tar and for the links in a 7z archive.
 class MemberReader
 {
 public:
-    virtual ~MemberReader() = default;
+    /// @param descriptor borrowed; a regular file, of @p size bytes
+    MemberReader(int descriptor, qint64 size, const ArchiveLimits &limits);
+
     /// The next member. False at the end, and after an error.
-    virtual bool next(ArchiveMember *member) = 0;
-    /// Reads from the content of the latest member, a file. Returns the number of bytes; 0 at its end, and then all of it
-    /// was there and sound; -1 after an error.
-    virtual qint64 read(char *data, qint64 size) = 0;
-    virtual bool rewind() = 0; ///< back to before the first member
+    bool next(ArchiveMember *member);
+    /// The next piece of the latest member, a file. Between pieces and at the end there may be holes, of zeros. False at the
+    /// end, and then all of it was there and sound; and after an error.
+    bool read(ArchiveBlock *block);
+    bool rewind(); ///< back to before the first member
     ArchiveError error() const { return m_error; }
 
-protected:
-    /// Returns false, for a short way out.
-    bool fail(ArchiveError error)
-    {
-        if (m_error == ArchiveError::None)
-            m_error = error;
-        return false;
-    }
-
 private:
+    bool openTar();
+    bool openOther();
+    archive *renewHandle();
+    bool fail(ArchiveError error);
+    bool failOfHandle();
+    bool finish();
+
+    const int m_descriptor;
+    const qint64 m_size;
+    const ArchiveLimits m_limits;
+    FileSource m_file;
+    std::unique_ptr<UnpackedStream> m_stream; // null when the file is not compressed
+    ArchiveHandle m_archive;                  // reads one of the two above
+    qint64 m_toldBytes = 0;                   // the sizes of all members so far
+    qint64 m_memberBytes = 0;
+    qint64 m_readBytes = 0; // of the member, with the holes
+    bool m_isSparse = false;
     ArchiveError m_error = ArchiveError::None;
 };
 

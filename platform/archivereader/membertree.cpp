@@ -4,6 +4,7 @@
 #include "membertree.h"
 
 #include "memberpath.h"
+#include "memberreader.h"
 
 #include <climits>
 

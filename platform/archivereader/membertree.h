@@ -3,8 +3,9 @@
 
 #pragma once
 
+#include "../archiveerror.h"
 #include "../archivelimits.h"
-#include "memberreader.h"
+#include "archivemember.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -15,6 +16,8 @@
 
 namespace VeskFM
 {
+
+class MemberReader;
 
 /// The members of an archive as a tree of directories that is safe to make on a disk.
 ///

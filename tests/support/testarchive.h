@@ -15,7 +15,8 @@ struct TestMember
     char type = '0';
 };
 
-/// Packs files, links and directories with the framework's own class, as the suffix of the name says.
+/// Packs files, links and directories as the suffix of the name says; with ".store." in it without compression, with
+/// ".sparse." with a hole for what is zero.
 void packArchive(const QString &path, const QVector<TestMember> &members);
 
 /// A tar archive as no archiver would write it.

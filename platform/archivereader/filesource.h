@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#pragma once
+
+#include <archive.h>
+
+#include <QtGlobal>
+
+#include <vector>
+
+namespace VeskFM
+{
+
+/// An open file as something that libarchive reads. It is not read with the descriptor's own position, which others may
+/// share, and passing over content does not lead beyond its end unnoticed.
+class FileSource
+{
+public:
+    FileSource(int descriptor, qint64 size); ///< borrows @p descriptor
+
+    /// Lets @p handle read the file from its start, once. Returns the code of libarchive.
+    int open(archive *handle);
+
+private:
+    static la_ssize_t read(archive *handle, void *source, const void **block);
+    static la_int64_t skip(archive *handle, void *source, la_int64_t size);
+    static la_int64_t seek(archive *handle, void *source, la_int64_t offset, int origin);
+
+    const int m_descriptor;
+    const qint64 m_size;
+    qint64 m_position = 0;
+    std::vector<char> m_block;
+};
+
+} // namespace VeskFM
