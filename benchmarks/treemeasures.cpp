@@ -126,6 +126,8 @@ QJsonObject TreeMeasures::shownNodes(const QString &directory)
     panel.show();
     panel.expandAll();
     QCoreApplication::processEvents();
+    if (leaves.isEmpty() || panel.model()->rowCount() < leaves.size())
+        return failure(QStringLiteral("not all is expanded"));
     QJsonObject figures = measureEvents(model, leaves);
     QJsonObject shown;
     for (auto figure = figures.begin(); figure != figures.end(); ++figure)

@@ -116,8 +116,8 @@ FavoriteDrops::Gap FavoriteDrops::gapAt(const QDropEvent &event) const
     const Entry entry = m_places->entryAt(event.pos());
     if (!isFavorite && !areFavorable(Clipboard::ptr()->dropEntries(event.mimeData())))
         return {};
-    const QModelIndex index = m_places->indexAt(event.pos());
-    const QRect row = m_places->visualRect(index);
+    const QModelIndex index = m_places->treeIndexAt(event.pos());
+    const QRect row = m_places->itemRect(m_places->indexAt(event.pos()));
     const auto line = [&row](int y) { return QRect(row.left(), y - markHeight / 2, row.width(), markHeight); };
     if (entry.isFavoritesPlace())
         return {true, -1, row};

@@ -3,43 +3,44 @@
 
 #include "paneltree.h"
 
-#include "entrydelegate.h"
 #include "favoritedrops.h"
-#include "layoutrepaint.h"
+#include "paneldelegate.h"
+#include "visiblerows.h"
 
 #include <veskfm/iconsize.h>
 #include <veskfm/treemodel.h>
 
 #include <QApplication>
-#include <QHeaderView>
 #include <QKeyEvent>
-#include <QPainter>
-#include <QStyleOptionViewItem>
+#include <QStyle>
 
 #include <utility>
 
 using namespace VeskFM;
 
-PanelTree::PanelTree(TreeModel *model, QWidget *parent)
-    : QTreeView(parent)
-    , m_model(model)
+namespace
 {
-    setItemDelegate(new EntryDelegate(this));
-    setHeaderHidden(true);
-    header()->setSectionResizeMode(QHeaderView::Stretch);
-    setUniformRowHeights(true);
-    setExpandsOnDoubleClick(false); // the first click has opened the directory already
+constexpr int indentation = 16; // pixels for each level, and for the expander
+}
+
+PanelTree::PanelTree(TreeModel *model, QWidget *parent)
+    : QListView(parent)
+    , m_model(model)
+    , m_rows(new VisibleRows(model, this))
+{
+    setItemDelegate(new PanelDelegate(this));
+    setUniformItemSizes(true);
     setTextElideMode(Qt::ElideMiddle);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setEditTriggers(NoEditTriggers);
     setVerticalScrollMode(ScrollPerPixel);
     setIconSize(QSize(IconSize::Small, IconSize::Small));
-    setIndentation(16);
     setDragDropMode(DragDrop);
     setDefaultDropAction(Qt::CopyAction);
     setFrameShape(NoFrame);
     setContextMenuPolicy(Qt::CustomContextMenu);
-    setModel(model);
-    repaintOnLayoutChange(this);
+    setModel(m_rows);
+    connect(model, &QAbstractItemModel::layoutChanged, viewport(), QOverload<>::of(&QWidget::update));
     connect(this, &QWidget::customContextMenuRequested, this, [this](const QPoint &position) {
         const Entry entry = entryAt(position);
         if (!entry.isNull())
@@ -47,15 +48,88 @@ PanelTree::PanelTree(TreeModel *model, QWidget *parent)
     });
 }
 
+bool PanelTree::isExpanded(const QModelIndex &treeIndex) const
+{
+    return m_rows->isExpanded(treeIndex);
+}
+
+void PanelTree::expand(const QModelIndex &treeIndex)
+{
+    m_rows->expand(treeIndex);
+}
+
+void PanelTree::expandAll()
+{
+    m_rows->expandAll();
+}
+
+/// What is current below it would be out of sight: it becomes current itself.
+void PanelTree::collapse(const QModelIndex &treeIndex)
+{
+    QModelIndex current = treeIndexOf(currentIndex()).parent();
+    while (current.isValid() && current != treeIndex)
+        current = current.parent();
+    if (current.isValid())
+        goTo(treeIndex);
+    m_rows->collapse(treeIndex);
+}
+
+void PanelTree::setTopExpandable(bool on)
+{
+    m_isTopExpandable = on;
+    viewport()->update();
+}
+
+void PanelTree::goTo(const QModelIndex &treeIndex)
+{
+    const QModelIndex row = m_rows->mapFromSource(treeIndex);
+    if (!row.isValid())
+        return;
+    setCurrentIndex(row);
+    scrollTo(row);
+}
+
+QModelIndex PanelTree::treeIndexOf(const QModelIndex &row) const
+{
+    return m_rows->mapToSource(row);
+}
+
+QModelIndex PanelTree::treeIndexAt(const QPoint &position) const
+{
+    return treeIndexOf(indexAt(position));
+}
+
 Entry PanelTree::entryAt(const QPoint &position) const
 {
-    const QModelIndex index = indexAt(position);
+    const QModelIndex index = treeIndexAt(position);
     return index.isValid() ? m_model->entryByIndex(index) : Entry();
 }
 
 Entry PanelTree::currentEntry() const
 {
-    return currentIndex().isValid() ? m_model->entryByIndex(currentIndex()) : Entry();
+    return currentIndex().isValid() ? m_model->entryByIndex(treeIndexOf(currentIndex())) : Entry();
+}
+
+QModelIndex PanelTree::rowOf(const Entry &entry) const
+{
+    return m_rows->mapFromSource(m_model->indexOfEntry(entry));
+}
+
+QRect PanelTree::itemRect(const QModelIndex &row) const
+{
+    const int levels = m_rows->level(row) + m_isTopExpandable;
+    const QRect whole = visualRect(row);
+    return QStyle::visualRect(layoutDirection(), whole, whole.adjusted(levels * indentation, 0, 0, 0));
+}
+
+QRect PanelTree::expanderRect(const QModelIndex &row) const
+{
+    const int left = (m_rows->level(row) + m_isTopExpandable - 1) * indentation;
+    const QRect whole = visualRect(row);
+    if (left < 0 || !m_rows->isExpandable(row))
+        return {};
+    return QStyle::visualRect(layoutDirection(), whole,
+                              {whole.left() + left, whole.top(), indentation, whole.height()});
 }
 
 // These keys mean what has the focus, not what is selected in a pane.
@@ -65,7 +139,7 @@ bool PanelTree::event(QEvent *event)
         event->accept();
         return true;
     }
-    return QTreeView::event(event);
+    return QListView::event(event);
 }
 
 bool PanelTree::isOwnKey(const QKeyEvent &event)
@@ -91,16 +165,65 @@ void PanelTree::keyPressEvent(QKeyEvent *event)
         Q_EMIT renamingRequested(entry);
         break;
     default:
-        QTreeView::keyPressEvent(event);
+        if (event->modifiers() & ~Qt::KeypadModifier || !moveInTree(event->key()))
+            QListView::keyPressEvent(event);
     }
+}
+
+/// What the keys do in trees: they open and close branches, and lead in and out where there is nothing to open or close.
+bool PanelTree::moveInTree(int key)
+{
+    const QModelIndex row = currentIndex();
+    const QModelIndex index = treeIndexOf(row);
+    const bool canExpand = !expanderRect(row).isEmpty();
+    const bool isOpen = canExpand && isExpanded(index);
+    if (!index.isValid())
+        return false;
+    switch (key) {
+    case Qt::Key_Plus:
+    case Qt::Key_Minus:
+        if (canExpand)
+            setExpanded(index, key == Qt::Key_Plus);
+        return canExpand;
+    case Qt::Key_Asterisk:
+        m_rows->expandAll(index);
+        return true;
+    case Qt::Key_Right:
+        if (canExpand && !isOpen)
+            expand(index);
+        else
+            goTo(m_model->index(0, 0, index));
+        return true;
+    case Qt::Key_Left:
+        if (isOpen)
+            collapse(index);
+        else
+            goTo(index.parent());
+        return true;
+    default:
+        return false;
+    }
+}
+
+void PanelTree::setExpanded(const QModelIndex &treeIndex, bool expanded)
+{
+    if (expanded)
+        expand(treeIndex);
+    else
+        collapse(treeIndex);
 }
 
 void PanelTree::mousePressEvent(QMouseEvent *event)
 {
+    const QModelIndex row = indexAt(event->pos());
+    if (event->button() == Qt::LeftButton && expanderRect(row).contains(event->pos())) {
+        setExpanded(treeIndexOf(row), !isExpanded(treeIndexOf(row)));
+        return;
+    }
     const Entry entry = event->button() == Qt::LeftButton ? entryAt(event->pos()) : Entry();
     m_pressed = entry.isFavoritePlace() ? entry : Entry();
     m_pressPosition = event->pos();
-    QTreeView::mousePressEvent(event);
+    QListView::mousePressEvent(event);
 }
 
 // The model lets no place be dragged, since it is none of the directory's business where a favorite goes.
@@ -110,7 +233,7 @@ void PanelTree::mouseMoveEvent(QMouseEvent *event)
     if (!m_pressed.isNull() && event->buttons() == Qt::LeftButton && far)
         dragFavorite(this, std::exchange(m_pressed, {}));
     else
-        QTreeView::mouseMoveEvent(event);
+        QListView::mouseMoveEvent(event);
 }
 
 void PanelTree::mouseReleaseEvent(QMouseEvent *event)
@@ -118,26 +241,12 @@ void PanelTree::mouseReleaseEvent(QMouseEvent *event)
     const bool dragged = state() == DraggingState
         || (event->pos() - m_pressPosition).manhattanLength() >= QApplication::startDragDistance();
     const QModelIndex pressed = currentIndex();
-    QTreeView::mouseReleaseEvent(event);
+    QListView::mouseReleaseEvent(event);
     const QModelIndex index = indexAt(event->pos());
-    const bool onItem = index.isValid() && visualRect(index).contains(event->pos()); // beside it is the expander
-    if (dragged || !onItem)
+    if (dragged || !itemRect(index).contains(event->pos()))
         return;
     if (event->button() == Qt::MiddleButton)
-        Q_EMIT opened(m_model->entryByIndex(index), true);
+        Q_EMIT opened(entryAt(event->pos()), true);
     else if (event->button() == Qt::LeftButton && index == pressed)
-        Q_EMIT opened(m_model->entryByIndex(index), event->modifiers().testFlag(Qt::ControlModifier));
-}
-
-// The toolkit goes by what it knew when it laid the rows out, and a leaf is found to be one when it is first painted.
-void PanelTree::drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const
-{
-    if (!m_model->hasChildren(index) || (!rootIsDecorated() && !index.parent().isValid()))
-        return;
-    QStyleOptionViewItem option = viewOptions();
-    option.rect = QRect(rect.right() - indentation() + 1, rect.top(), indentation(), rect.height());
-    option.state |= QStyle::State_Item | QStyle::State_Children;
-    option.state.setFlag(QStyle::State_Open, isExpanded(index));
-    option.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(index));
-    style()->drawPrimitive(QStyle::PE_IndicatorBranch, &option, painter, this);
+        Q_EMIT opened(entryAt(event->pos()), event->modifiers().testFlag(Qt::ControlModifier));
 }

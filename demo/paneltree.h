@@ -5,23 +5,42 @@
 
 #include <veskplatform/entrylist.h>
 
-#include <QTreeView>
+#include <QListView>
 
 namespace VeskFM
 {
 class TreeModel;
 }
+class VisibleRows;
 
 /// A tree of containers in the side panel. A click or Return opens one, with the middle button or Ctrl in the other pane.
-class PanelTree : public QTreeView
+///
+/// As a view it shows a list, which stays quick however much is expanded (see VisibleRows); its own functions take and
+/// give indexes of the tree where nothing else is said.
+class PanelTree : public QListView
 {
     Q_OBJECT
 
 public:
     explicit PanelTree(VeskFM::TreeModel *model, QWidget *parent = nullptr); ///< @p model must outlive the view
 
+    bool isExpanded(const QModelIndex &treeIndex) const;
+    void expand(const QModelIndex &treeIndex);
+    void expandAll(); ///< what the model has listed
+    void collapse(const QModelIndex &treeIndex);
+    void setTopExpandable(bool on);          ///< off: the rows at the top have no expanders. On at first
+    void goTo(const QModelIndex &treeIndex); ///< to the row of it, which has to be visible; scrolls there
+
+    QModelIndex treeIndexOf(const QModelIndex &row) const; ///< of a row of this view
+    QModelIndex treeIndexAt(const QPoint &position) const;
     VeskFM::Entry entryAt(const QPoint &position) const; ///< in the viewport; null beside the rows
     VeskFM::Entry currentEntry() const;
+
+    QModelIndex rowOf(const VeskFM::Entry &entry) const; ///< a row of this view; invalid while it is not visible
+
+    // In the viewport, of a row of this view.
+    QRect itemRect(const QModelIndex &row) const;     ///< of picture and name, with all that is free behind them
+    QRect expanderRect(const QModelIndex &row) const; ///< empty for a leaf
 
 Q_SIGNALS:
     void opened(const VeskFM::Entry &entry, bool inOtherPane);
@@ -35,12 +54,15 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
-    void drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const override;
 
 private:
     static bool isOwnKey(const QKeyEvent &event);
+    bool moveInTree(int key);
+    void setExpanded(const QModelIndex &treeIndex, bool expanded);
 
     VeskFM::TreeModel *m_model; // borrowed
+    VisibleRows *m_rows;
+    bool m_isTopExpandable = true;
     QPoint m_pressPosition;
     VeskFM::Entry m_pressed; // a favorite that may be dragged away; null otherwise
 };

@@ -99,10 +99,10 @@ void PlaceWork::removeFavorite(const Entry &favorite)
 void PlaceWork::renameFavorite(const Entry &favorite)
 {
     PanelTree *const places = m_panel->places();
-    const QModelIndex index = static_cast<Model *>(places->model())->indexOfEntry(favorite);
+    const QModelIndex index = places->rowOf(favorite);
     if (!favorite.isFavoritePlace() || !index.isValid())
         return;
-    QRect row = places->visualRect(index);
+    QRect row = places->itemRect(index);
     row.setLeft(row.left() + places->iconSize().width());
     auto *const editor = new InPlaceEditor(places, row, VFS::ptr()->favoritePlace(favorite).name());
     connect(editor, &InPlaceEditor::accepted, this, [this, favorite](const QString &label) {

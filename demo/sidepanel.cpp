@@ -6,8 +6,8 @@
 #include "containers.h"
 #include "entrydrops.h"
 #include "kiosk.h"
+#include "paneldelegate.h"
 #include "paneltree.h"
-#include "placedelegate.h"
 
 #include <veskfm/placesmodel.h>
 #include <veskfm/settings.h>
@@ -28,11 +28,11 @@ SidePanel::SidePanel(QWidget *parent)
     m_tree->setObjectName(QStringLiteral("tree"));
     m_places->setAccessibleName(tr("Places"));
     m_tree->setAccessibleName(tr("Folders"));
-    m_places->setItemDelegate(new PlaceDelegate(m_places));
-    m_places->setRootIsDecorated(Settings::ptr()->isPlacesCollapsible());
+    static_cast<PanelDelegate *>(m_places->itemDelegate())->setTopIsHeading(true);
+    m_places->setTopExpandable(Settings::ptr()->isPlacesCollapsible());
     setChildrenCollapsible(false);
-    adopt(m_places, m_placesModel.get());
-    adopt(m_tree, m_treeModel.get());
+    adopt(m_places);
+    adopt(m_tree);
     connect(m_placesModel.get(), &QAbstractItemModel::rowsInserted, this, &SidePanel::showGroups,
             Qt::QueuedConnection); // once the view has them
     connect(m_placesModel.get(), &QAbstractItemModel::rowsRemoved, this, &SidePanel::showGroups, Qt::QueuedConnection);
@@ -50,16 +50,16 @@ SidePanel::~SidePanel()
     delete m_tree;
 }
 
-void SidePanel::adopt(PanelTree *tree, TreeModel *model)
+void SidePanel::adopt(PanelTree *tree)
 {
     connect(tree, &PanelTree::opened, this, &SidePanel::opened);
     connect(tree, &PanelTree::menuRequested, this, &SidePanel::menuRequested);
     connect(tree, &PanelTree::removalRequested, this, &SidePanel::removalRequested);
     connect(tree, &PanelTree::renamingRequested, this, &SidePanel::renamingRequested);
-    auto *const drops = new EntryDrops(tree, [tree, model](const QDropEvent &event) -> EntryDrops::Place {
-        const QModelIndex row = tree->indexAt(event.pos());
-        const Entry entry = row.isValid() ? model->entryByIndex(row) : Entry();
-        return canTakeFiles(entry) ? EntryDrops::Place{entry, tree->visualRect(row)} : EntryDrops::Place();
+    auto *const drops = new EntryDrops(tree, [tree](const QDropEvent &event) -> EntryDrops::Place {
+        const Entry entry = tree->entryAt(event.pos());
+        const QRect mark = tree->itemRect(tree->indexAt(event.pos()));
+        return canTakeFiles(entry) ? EntryDrops::Place{entry, mark} : EntryDrops::Place();
     });
     connect(drops, &EntryDrops::dropped, this, &SidePanel::entriesDropped);
 }
@@ -107,7 +107,7 @@ void SidePanel::showInPlaces(const Entry &directory)
         for (int child = -1; child < m_placesModel->rowCount(group); ++child) {
             const QModelIndex index = child < 0 ? group : m_placesModel->index(child, 0, group);
             if (isHere(index)) {
-                m_places->setCurrentIndex(index);
+                m_places->goTo(index);
                 return;
             }
         }
@@ -125,6 +125,5 @@ void SidePanel::showInTree(const Entry &directory)
     }
     for (const QModelIndex &step : path.mid(0, path.size() - 1))
         m_tree->expand(step);
-    m_tree->setCurrentIndex(path.last());
-    m_tree->scrollTo(path.last());
+    m_tree->goTo(path.last());
 }

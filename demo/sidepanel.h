@@ -40,7 +40,7 @@ Q_SIGNALS:
     void renamingRequested(const VeskFM::Entry &entry);
 
 private:
-    void adopt(PanelTree *tree, VeskFM::TreeModel *model);
+    void adopt(PanelTree *tree);
     void showGroups();
     void showInPlaces(const VeskFM::Entry &directory);
     void showInTree(const VeskFM::Entry &directory);

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The libveskfmcore authors
+// SPDX-License-Identifier: LGPL-2.1-or-later
+
+#include "paneldelegate.h"
+
+#include "paneltree.h"
+
+#include <QStyle>
+
+PanelDelegate::PanelDelegate(PanelTree *tree)
+    : EntryDelegate(tree)
+    , m_tree(tree)
+{
+}
+
+void PanelDelegate::setTopIsHeading(bool on)
+{
+    m_isTopHeading = on;
+}
+
+void PanelDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    paintExpander(painter, option, index);
+    QStyleOptionViewItem item = option;
+    item.rect = m_tree->itemRect(index);
+    EntryDelegate::paint(painter, item, index);
+}
+
+// Asked anew each time: a leaf is found to be one when it is first painted.
+void PanelDelegate::paintExpander(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QStyleOption expander = option;
+    expander.rect = m_tree->expanderRect(index);
+    if (expander.rect.isEmpty())
+        return;
+    expander.state |= QStyle::State_Item | QStyle::State_Children;
+    expander.state.setFlag(QStyle::State_Open, m_tree->isExpanded(m_tree->treeIndexOf(index)));
+    m_tree->style()->drawPrimitive(QStyle::PE_IndicatorBranch, &expander, painter, m_tree);
+}
+
+void PanelDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    EntryDelegate::initStyleOption(option, index);
+    if (!m_isTopHeading || m_tree->treeIndexOf(index).parent().isValid())
+        return;
+    option->features &= ~QStyleOptionViewItem::HasDecoration;
+    option->icon = QIcon();
+    option->font.setBold(true);
+}
