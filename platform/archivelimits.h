@@ -17,7 +17,8 @@ struct ArchiveLimits
     qint64 pathBytes = 3072;                ///< leaves room below PATH_MAX for the directory of the mount
     qint64 textBytes = 128LL * 1024 * 1024; ///< all names and targets of links together: they are kept in memory
     qint64 unpackedBytes = 16LL * 1024 * 1024 * 1024; ///< of contents: what somebody may be ready to wait for
-    qint64 memoryBytes = 2LL * 1024 * 1024 * 1024; ///< address space of the reader: how far an archive makes it look back
+    qint64 memoryBytes =
+        2LL * 1024 * 1024 * 1024; ///< address space of the reader: how far an archive makes it look back
 
     /// For vesk-archive: "--entries=1000000" and so on.
     QStringList toArguments() const;

@@ -12,8 +12,8 @@
 namespace VeskFM
 {
 
-/// An open file as something that libarchive reads. It is not read with the descriptor's own position, which others may
-/// share, and passing over content does not lead beyond its end unnoticed.
+/// An open file as something that libarchive reads. With its own access to files, it passes over content that is not there
+/// without noticing.
 class FileSource
 {
 public:

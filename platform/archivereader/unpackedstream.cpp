@@ -26,27 +26,18 @@ public:
     explicit GzipStream(int descriptor)
         : m_buffer(bufferSize)
     {
-        const int own = lseek(descriptor, 0, SEEK_SET) == 0 ? dup(descriptor) : -1;
-        m_file = own < 0 ? nullptr : gzdopen(own, "rb");
-        if (m_file)
-            gzbuffer(m_file, bufferSize);
-        else if (own >= 0)
-            close(own);
+        lseek(descriptor, 0, SEEK_SET);
+        m_file = gzdopen(dup(descriptor), "rb"); // all of zlib takes null, and fails
+        gzbuffer(m_file, bufferSize);
     }
-    ~GzipStream() override
-    {
-        if (m_file)
-            gzclose(m_file);
-    }
+    ~GzipStream() override { gzclose(m_file); }
     Q_DISABLE_COPY_MOVE(GzipStream)
 
 private:
     ArchiveError readNext(const void **block, qint64 *size) override
     {
-        if (!m_file)
-            return ArchiveError::Failed;
         const int count = gzread(m_file, m_buffer.data(), bufferSize);
-        int error = Z_OK;
+        int error = m_file ? Z_OK : Z_MEM_ERROR;
         if (count <= 0)
             gzerror(m_file, &error); // also where it ends too early
         *block = m_buffer.data();
@@ -73,6 +64,9 @@ public:
         archive_read_support_filter_zstd(handle);
         archive_read_support_format_raw(handle);
         m_result = m_file.open(handle);
+        archive_entry *whole = nullptr;
+        if (m_result == ARCHIVE_OK)
+            m_result = archive_read_next_header(handle, &whole);
     }
     archive *handle() const { return m_handle.get(); }
     int result() const { return m_result; }
@@ -80,10 +74,6 @@ public:
 private:
     ArchiveError readNext(const void **block, qint64 *size) override
     {
-        archive_entry *whole = nullptr;
-        if (!m_isBegun)
-            m_result = archive_read_next_header(m_handle.get(), &whole);
-        m_isBegun = true;
         size_t count = 0;
         la_int64_t offset = 0;
         if (m_result == ARCHIVE_OK)
@@ -95,7 +85,6 @@ private:
     FileSource m_file;
     const ArchiveHandle m_handle;
     int m_result = ARCHIVE_OK;
-    bool m_isBegun = false;
 };
 } // namespace
 
@@ -106,9 +95,9 @@ std::unique_ptr<UnpackedStream> UnpackedStream::open(int descriptor, qint64 size
         *error = errorOf(filtered->handle());
         return nullptr;
     }
-    const int filters = archive_filter_count(filtered->handle()) - 1; // the last is the file
-    if (filters > 1)                                                  // packed again and again: only to do harm
-        *error = ArchiveError::Unsupported;
+    const int filters = archive_filter_count(filtered->handle()) - 1; // one of them stands for the file
+    if (filters > 1)
+        *error = ArchiveError::Unsupported; // packed again and again: only to do harm
     if (filters != 1)
         return nullptr;
     std::unique_ptr<UnpackedStream> stream;
