@@ -5,6 +5,7 @@
 
 #include "paneltree.h"
 
+#include <QPainter>
 #include <QStyle>
 
 PanelDelegate::PanelDelegate(PanelTree *tree)
@@ -20,10 +21,21 @@ void PanelDelegate::setTopIsHeading(bool on)
 
 void PanelDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    paintExpander(painter, option, index);
     QStyleOptionViewItem item = option;
     item.rect = m_tree->itemRect(index);
+    if (m_tree->style()->styleHint(QStyle::SH_ItemView_ShowDecorationSelected, &option, m_tree))
+        paintBackground(painter, option, item.rect);
+    paintExpander(painter, option, index);
     EntryDelegate::paint(painter, item, index);
+}
+
+/// Of what is beside the item, which has its own.
+void PanelDelegate::paintBackground(QPainter *painter, const QStyleOptionViewItem &option, const QRect &item) const
+{
+    painter->save();
+    painter->setClipRegion(QRegion(option.rect) - item);
+    m_tree->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &option, painter, m_tree);
+    painter->restore();
 }
 
 // Asked anew each time: a leaf is found to be one when it is first painted.

@@ -23,6 +23,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
+    void paintBackground(QPainter *painter, const QStyleOptionViewItem &option, const QRect &item) const;
     void paintExpander(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
 
     const PanelTree *m_tree;
