@@ -192,6 +192,8 @@ EntryBasePropertySet::StatePtr EntryBasePropertySet::stateOf(const Entry &entry)
     for (;;) {
         {
             const SpinGuard guard(m_lock);
+            if (m_state == EntryBaseState::empty())
+                return m_state; // never prepared: nothing is known of anything
             if (const StatePtr *const known = knownState(place))
                 return *known;
             if (made && isRefined == m_isRefined) {
