@@ -49,7 +49,8 @@ QString PlaceEntryData::path() const
 
 int PlaceEntryData::type() const
 {
-    return Entry::VirtualDir;
+    // What is of the kind of virtual directories is drawn as a folder, and devices have pictures of their own.
+    return is(EntryTrait::StoragePlace) ? Entry::Dir : Entry::VirtualDir;
 }
 
 bool PlaceEntryData::is(EntryTrait trait) const
