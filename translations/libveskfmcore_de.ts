@@ -72,6 +72,61 @@
     </message>
 </context>
 <context>
+    <name>ArchiveProblem</name>
+    <message>
+        <source>%1 cannot be read: the program that reads archives does not start</source>
+        <translation>%1 kann nicht gelesen werden: Das Programm, das Archive liest, startet nicht</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged, or is no archive</source>
+        <translation>%1 ist beschädigt oder kein Archiv</translation>
+    </message>
+    <message>
+        <source>%1 is encrypted</source>
+        <translation>%1 ist verschlüsselt</translation>
+    </message>
+    <message>
+        <source>%1 is packed in a way that cannot be unpacked here</source>
+        <translation>%1 ist auf eine Weise gepackt, die hier nicht entpackt werden kann</translation>
+    </message>
+    <message>
+        <source>%1 holds too many files</source>
+        <translation>%1 enthält zu viele Dateien</translation>
+    </message>
+    <message>
+        <source>%1 holds folders that are nested too deeply</source>
+        <translation>%1 enthält zu tief verschachtelte Ordner</translation>
+    </message>
+    <message>
+        <source>%1 holds a name that is too long</source>
+        <translation>%1 enthält einen zu langen Namen</translation>
+    </message>
+    <message>
+        <source>%1 is too large when it is unpacked</source>
+        <translation>%1 ist entpackt zu groß</translation>
+    </message>
+    <message>
+        <source>There is not enough free space to unpack %1</source>
+        <translation>Zum Entpacken von %1 ist nicht genug Platz frei</translation>
+    </message>
+    <message>
+        <source>%1 cannot be unpacked into the cache directory</source>
+        <translation>%1 kann nicht in das Cache-Verzeichnis entpackt werden</translation>
+    </message>
+    <message>
+        <source>%1 is damaged, or needs too much memory</source>
+        <translation>%1 ist beschädigt oder braucht zu viel Speicher</translation>
+    </message>
+    <message>
+        <source>%1 has changed</source>
+        <translation>%1 hat sich geändert</translation>
+    </message>
+</context>
+<context>
     <name>CorePaths</name>
     <message>
         <source>copy</source>

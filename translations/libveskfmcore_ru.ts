@@ -73,6 +73,61 @@
     </message>
 </context>
 <context>
+    <name>ArchiveProblem</name>
+    <message>
+        <source>%1 cannot be read: the program that reads archives does not start</source>
+        <translation>Не удалось прочитать %1: программа, читающая архивы, не запускается</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>Не удалось прочитать %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged, or is no archive</source>
+        <translation>Файл %1 повреждён или не является архивом</translation>
+    </message>
+    <message>
+        <source>%1 is encrypted</source>
+        <translation>Архив %1 зашифрован</translation>
+    </message>
+    <message>
+        <source>%1 is packed in a way that cannot be unpacked here</source>
+        <translation>Архив %1 упакован способом, который здесь не поддерживается</translation>
+    </message>
+    <message>
+        <source>%1 holds too many files</source>
+        <translation>В архиве %1 слишком много файлов</translation>
+    </message>
+    <message>
+        <source>%1 holds folders that are nested too deeply</source>
+        <translation>В архиве %1 папки вложены слишком глубоко</translation>
+    </message>
+    <message>
+        <source>%1 holds a name that is too long</source>
+        <translation>В архиве %1 есть слишком длинное имя</translation>
+    </message>
+    <message>
+        <source>%1 is too large when it is unpacked</source>
+        <translation>Архив %1 слишком велик в распакованном виде</translation>
+    </message>
+    <message>
+        <source>There is not enough free space to unpack %1</source>
+        <translation>Недостаточно места, чтобы распаковать %1</translation>
+    </message>
+    <message>
+        <source>%1 cannot be unpacked into the cache directory</source>
+        <translation>Не удалось распаковать %1 в каталог кэша</translation>
+    </message>
+    <message>
+        <source>%1 is damaged, or needs too much memory</source>
+        <translation>Архив %1 повреждён или требует слишком много памяти</translation>
+    </message>
+    <message>
+        <source>%1 has changed</source>
+        <translation>Архив %1 изменился</translation>
+    </message>
+</context>
+<context>
     <name>CorePaths</name>
     <message>
         <source>copy</source>

@@ -19,7 +19,7 @@ namespace VeskFM
 namespace
 {
 constexpr qint64 longestPadding = 1024 * 1024; // of a tar archive with nothing in it
-constexpr qint64 latestSec = 100'000'000'000;  // the year 5138
+constexpr auto latestSec = qint64(1e11);       // the year 5138
 
 la_ssize_t readStream(archive *, void *stream, const void **block)
 {
