@@ -13,12 +13,8 @@ struct TestMember
     QByteArray name;
     QByteArray content;
     char type = '0';
+    qint64 claimedSize = 0; ///< bytes; where it is more than the truth, the member is the last
 };
 
-/// Packs files, links and directories as the suffix of the name says; with ".store." in it without compression, with
-/// ".sparse." with a hole for what is zero.
+/// Packs members as the suffix tells; what is zero is a hole in a ".sparse.tar", and a ".store.7z" is not compressed.
 void packArchive(const QString &path, const QVector<TestMember> &members);
-
-/// A tar archive as no archiver would write it.
-/// @param size what its last header claims, in bytes; negative for the truth
-QByteArray tarOf(const QVector<TestMember> &members, qint64 size = -1);
