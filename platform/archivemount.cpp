@@ -83,6 +83,12 @@ Entry ArchiveMount::archiveOf(const Entry &entry)
     return entry.isArchiveMountPoint() ? entry : Entry();
 }
 
+qint64 ArchiveMount::modifiedMs(const Entry &entry)
+{
+    const ArchiveNodeData *const node = ArchiveNodeData::of(entry);
+    return node && node->tree() ? node->tree()->modifiedMs(node->node()) : 0;
+}
+
 bool ArchiveMount::isInMount(const QString &localPath)
 {
     return ArchiveMountRoot::isBelowAny(PathCodec::encode(localPath));

@@ -8,14 +8,14 @@ namespace VeskFM
 
 QDataStream &operator<<(QDataStream &stream, const ArchiveNodeRecord &record)
 {
-    return stream << record.parent << record.kind << record.isExecutable << record.size << record.target << record.name
-                  << record.link;
+    return stream << record.parent << record.kind << record.isExecutable << record.size << record.modifiedMs
+                  << record.target << record.name << record.link;
 }
 
 QDataStream &operator>>(QDataStream &stream, ArchiveNodeRecord &record)
 {
-    return stream >> record.parent >> record.kind >> record.isExecutable >> record.size >> record.target >> record.name
-        >> record.link;
+    return stream >> record.parent >> record.kind >> record.isExecutable >> record.size >> record.modifiedMs
+        >> record.target >> record.name >> record.link;
 }
 
 } // namespace VeskFM

@@ -47,6 +47,7 @@ bool ArchiveTree::add(const ArchiveNodeRecord &record)
     node.parent = record.parent;
     node.target = record.kind == ArchiveNodeRecord::Link ? record.target : -1;
     node.size = record.size;
+    node.modifiedMs = record.modifiedMs;
     node.text = quint32(m_texts.size());
     node.linkSize = quint16(record.link.size());
     node.nameSize = quint8(record.name.size());

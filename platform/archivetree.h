@@ -42,6 +42,7 @@ public:
     bool isLink(int node) const { return m_nodes[size_t(node)].kind == ArchiveNodeRecord::Link; }
     bool isExecutable(int node) const { return m_nodes[size_t(node)].isExecutable; }
     qint64 size(int node) const { return m_nodes[size_t(node)].size; }
+    qint64 modifiedMs(int node) const { return m_nodes[size_t(node)].modifiedMs; } ///< 0 when it is not told
     int target(int node) const { return m_nodes[size_t(node)].target; } ///< -1 for what is no link, or leads to nothing
     QString name(int node) const;
     QString link(int node) const;
@@ -55,6 +56,7 @@ private:
         quint32 children = 0;
         qint32 target = -1;
         qint64 size = 0;
+        qint64 modifiedMs = 0;
         quint32 text = 0; // where its name is, and after it the link
         quint16 linkSize = 0;
         quint8 nameSize = 0;

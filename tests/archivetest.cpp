@@ -131,6 +131,7 @@ void ArchiveTest::showsWhatWasPacked()
 
     const Entry deep = vfs.entry(path + "/d/link/deep");
     QCOMPARE(deep.path(), path + "/d/link/deep");
+    QCOMPARE(ArchiveMount::modifiedMs(deep), packedTime * 1000);
     QVERIFY(deep.isFile() && deep.isExists() && deep.localPath().isEmpty() && ArchiveMount::isInArchive(deep));
     QCOMPARE(vfs.parent(vfs.parent(vfs.parent(deep))), archive);
     QCOMPARE(vfs.pathEntryList(deep, archive).size(), 4);

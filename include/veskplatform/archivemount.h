@@ -39,6 +39,10 @@ public:
     /// The archive that @p entry is or lies in, as a file of the disk; null when it is none and lies in none.
     static Entry archiveOf(const Entry &entry);
 
+    /// When what @p entry names was last changed, as the archive has it: milliseconds since the Unix epoch; 0 when that is not
+    /// told, and for what lies in no archive. Looks at nothing.
+    static qint64 modifiedMs(const Entry &entry);
+
     /// Whether a path of the disk lies in a mount, of this process or of another one: nothing there stays for long, and
     /// everything is read-only. Looks at nothing.
     static bool isInMount(const QString &localPath);

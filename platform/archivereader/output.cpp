@@ -33,6 +33,7 @@ void Output::writeTree(const MemberTree &tree)
                                                    : ArchiveNodeRecord::File;
         record.isExecutable = node.isExecutable;
         record.size = node.size;
+        record.modifiedMs = node.modifiedMs;
         record.target = node.target < 0 ? -1 : places[size_t(node.target)];
         record.name = node.name;
         record.link = node.link;

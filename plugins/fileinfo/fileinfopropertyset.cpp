@@ -8,6 +8,7 @@
 
 #include <veskfm/core.h>
 #include <veskfm/entryviewparameters.h>
+#include <veskplatform/archivemount.h>
 #include <veskplatform/entry.h>
 
 #include <QCoreApplication>
@@ -127,7 +128,7 @@ QVariant FileInfoPropertySet::sizeValue(const Entry &entry, int role) const
 QVariant FileInfoPropertySet::modifiedValue(const Entry &entry, int role) const
 {
     const Facts known = facts(entry);
-    if (known.known != Known::Facts)
+    if (known.known != Known::Facts && known.known != Known::Time)
         return role == sortKeyRole ? QVariant(QDateTime()) : QVariant(QString());
     if (role == sortKeyRole) // in UTC, which needs no time-zone look-up
         return QDateTime::fromMSecsSinceEpoch(known.modifiedMs, Qt::UTC);
@@ -164,6 +165,11 @@ void FileInfoPropertySet::refineData(const Entry &entry)
 FileInfoPropertySet::Facts FileInfoPropertySet::read(const Entry &entry)
 {
     Facts facts;
+    facts.modifiedMs = ArchiveMount::modifiedMs(entry);
+    if (facts.modifiedMs != 0) {
+        facts.known = Known::Time;
+        return facts;
+    }
     const QByteArray path = diskPath(entry);
     if (path.isEmpty())
         return facts;

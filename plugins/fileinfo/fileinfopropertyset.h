@@ -30,8 +30,8 @@ public:
     void refineData(const Entry &entry) override;
 
 private:
-    enum class Known : quint8 { Nothing, WhenAsked, Facts, Failure };
-    /// What one lstat() tells.
+    enum class Known : quint8 { Nothing, WhenAsked, Facts, Time, Failure };
+    /// What one lstat() tells, or an archive, which has no owners for its files, and the time alone.
     struct Facts
     {
         qint64 modifiedMs = 0; // since the Unix epoch

@@ -5,6 +5,8 @@
 
 #include "diskpath.h"
 
+#include <veskplatform/archivemount.h>
+
 #include <sys/stat.h>
 
 namespace VeskFM
@@ -22,6 +24,8 @@ ModifiedMatch::ModifiedMatch(qint64 earliest)
 
 bool ModifiedMatch::match(const Entry &entry) const
 {
+    if (const qint64 inArchiveMs = ArchiveMount::modifiedMs(entry))
+        return inArchiveMs / 1000 >= m_earliest;
     const QByteArray path = diskPath(entry);
     struct stat found = {};
     return !path.isEmpty() && lstat(path.constData(), &found) == 0 && found.st_mtim.tv_sec >= m_earliest;

@@ -33,6 +33,7 @@ void packArchive(const QString &path, const QVector<TestMember> &members)
         archive_entry_copy_pathname(entry, member.name.constData());
         archive_entry_set_mode(entry,
                                types.value(member.type, AE_IFREG) | 04755); // as nobody may get it from an archive
+        archive_entry_set_mtime(entry, packedTime, 0);
         archive_entry_set_size(entry, member.type != '0' ? 0 : qMax<qint64>(size, member.claimedSize));
         if (member.type == '1')
             archive_entry_copy_hardlink(entry, content);

@@ -16,5 +16,7 @@ struct TestMember
     qint64 claimedSize = 0; ///< bytes; where it is more than the truth, the member is the last
 };
 
+constexpr qint64 packedTime = 1000000000; ///< when all members were changed, in seconds since the Unix epoch
+
 /// Packs members as the suffix tells; what is zero is a hole in a ".sparse.tar", and a ".store.7z" is not compressed.
 void packArchive(const QString &path, const QVector<TestMember> &members);
