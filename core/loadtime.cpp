@@ -7,10 +7,14 @@
 
 #include <fixedplaces.h>
 #include <veskfm/appinfo.h>
+#include <veskfm/entrypropertyrequest.h>
+#include <veskfm/fopid.h>
 #include <veskfm/iconsize.h>
 #include <veskfm/newfiletemplate.h>
 #include <veskfm/processinfo.h>
 #include <veskplatform/entrylist.h>
+#include <veskplatform/favoriteplace.h>
+#include <veskplatform/storageplace.h>
 
 #include <QCoreApplication>
 #include <QDBusMetaType>
@@ -42,6 +46,12 @@ void registerValueTypes()
     qRegisterMetaType<ProcessInfoList>();
     qRegisterMetaType<IconSize>();
     qRegisterMetaType<NewFileTemplate>();
+    qRegisterMetaType<FOpId>();
+    qRegisterMetaType<FavoritePlace>();
+    qRegisterMetaType<StoragePlace>();
+    qRegisterMetaType<EntryPropertyRequest>();
+    qRegisterMetaType<EntryPropertyRequestList>();
+    qRegisterMetaType<EntryPropertyRequestList>("EntryPropertyRequestList"); // as the enumerator's signal names it
     qDBusRegisterMetaType<AppInfo>();
     qDBusRegisterMetaType<AppInfoList>();
     registerEntryMetaTypes();

@@ -69,9 +69,6 @@ PropertyEnumerator::PropertyEnumerator(const QList<PropsPlugin *> &plugins, QObj
     , m_pool(std::make_unique<HolderPool>())
     , m_releaseTimer(new QTimer(this))
 {
-    // Under both spellings: the signal names the type without its namespace.
-    qRegisterMetaType<EntryPropertyRequestList>("EntryPropertyRequestList");
-    qRegisterMetaType<EntryPropertyRequestList>("VeskFM::EntryPropertyRequestList");
     connect(m_releaseTimer, &QTimer::timeout, this, &PropertyEnumerator::releaseDataHoldersTimeout);
     connect(m_watcher, &QFutureWatcherBase::finished, this, &PropertyEnumerator::holderUpdated);
     m_enumerators.append(this);

@@ -63,8 +63,7 @@ FOps::FOps(QObject *parent)
 {
     if (!m_ptr)
         m_ptr = this;
-    qRegisterMetaType<FOpId>();
-    qRegisterMetaType<OperationType>(); // both for queued connections to our signal
+    qRegisterMetaType<OperationType>(); // for queued connections to our signal
     m_fileOperation = createInterface(QStringLiteral("/"), interfaceName());
     // Through the connection, not through the interface object: that would need the service's introspection data to
     // know our types. Results of anybody but the owner of the service's name do not come through.

@@ -80,12 +80,20 @@ class CoreTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void registersItsValueTypesWhenLoaded();
     void sizeTexts();
     void startsCommandLines();
     void startsOnTheRootDisplay();
     void printsMessagesWithTheirLevel();
     void runsHaltHandlersAndThenTheDefaultAction();
 };
+
+void CoreTest::registersItsValueTypesWhenLoaded()
+{
+    for (const char *name : {"VeskFM::FOpId", "VeskFM::FavoritePlace", "VeskFM::StoragePlace", "VeskFM::AppInfoList",
+                             "VeskFM::EntryPropertyRequest", "EntryPropertyRequestList", "VeskFM::ProcessInfoList"})
+        QVERIFY2(QMetaType::type(name) != QMetaType::UnknownType, name); // before anybody else had a reason to
+}
 
 void CoreTest::sizeTexts()
 {

@@ -5,6 +5,7 @@
 
 #include <veskplatform/export.h>
 
+#include <QMetaType>
 #include <QString>
 
 namespace VeskFM
@@ -26,3 +27,5 @@ private:
 };
 
 } // namespace VeskFM
+
+Q_DECLARE_METATYPE(VeskFM::FavoritePlace)

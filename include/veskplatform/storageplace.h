@@ -5,6 +5,7 @@
 
 #include <veskplatform/export.h>
 
+#include <QMetaType>
 #include <QString>
 
 namespace VeskFM
@@ -34,3 +35,5 @@ private:
 };
 
 } // namespace VeskFM
+
+Q_DECLARE_METATYPE(VeskFM::StoragePlace)
