@@ -40,10 +40,11 @@ public:
     void unlockUnloader(); ///< takes one lock back and starts the idle time anew
     void recallUnloader(); ///< starts the idle time anew, unless locked
 
+    // The order of the virtual functions below is binary interface: services are programs of their own.
+
     /// The process is about to end by a signal. Runs in the signal handler. Default: does nothing.
     virtual void haltHandler(Core::HaltReason reason);
     void wrappedHaltHandler(Core::HaltReason reason); ///< calls haltHandler()
-    virtual bool unloadIsAllowed();                   ///< asked before the process quits for idleness; default: true
 
     /// For qInstallMessageHandler() in a host that has no terminal: shows messages in message boxes, informational ones
     /// not at all. Thread: any; those of other threads are shown a little later. Printed where no box can be shown.
@@ -53,10 +54,11 @@ public Q_SLOTS:
     /// Counts the caller as a client. Does nothing for a call that did not come over the bus.
     void capture();
     virtual void release() = 0; ///< the application is about to quit
+    void unloaderTimeout();     ///< quits the application if the service is idle and may be unloaded
+    void slotCallingServiceUnregistered(const QString &service); ///< that client has left the bus
 
-private Q_SLOTS:
-    void unloaderTimeout();
-    void slotCallingServiceUnregistered(const QString &service);
+public:
+    virtual bool unloadIsAllowed(); ///< asked before the process quits for idleness; default: true
 
 private:
     bool hasClients() const;
