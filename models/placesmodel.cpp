@@ -65,17 +65,21 @@ bool PlacesModelPrivate::showsPlaces() const
 
 bool PlacesModelPrivate::isHiddenRoot(const Entry &entry) const
 {
-    return !m_hiddenRoots.isEmpty() && m_hiddenRoots.contains(placeRootName(entry)) && !extras.contains(entry);
+    return !m_hiddenRoots.isEmpty() && m_hiddenRoots.contains(placeRootName(entry));
 }
 
 bool PlacesModelPrivate::acceptEntry(const Entry &entry) const
 {
-    if (extras.contains(entry))
-        return true;
     // The root of the disk is a child of the same top as the groups. Here the place that leads to it stands for it.
     if (entry.isFSRoot() && !entry.isPlace())
         return false;
     return TreeModelPrivate::acceptEntry(entry) && !isHiddenRoot(entry);
+}
+
+/// On the top level an extra entry is shown in any case; further below it is an entry like any other.
+bool PlacesModelPrivate::acceptBelow(const Entry &parent, const Entry &entry) const
+{
+    return (extras.contains(entry) && parent == root->entry()) || acceptEntry(entry);
 }
 
 EntryList PlacesModelPrivate::topLevel() const
@@ -139,11 +143,11 @@ void PlacesModelPrivate::fillTopLevel()
 {
     if (!showsPlaces())
         return;
+    const Entry top = root->entry();
     const EntryList entries = topLevel();
-    if (!root->isChildsInited())
-        onDirListed(root->entry(), childFilters(), entries);
-    else
-        updateRows(root->entry(), entries); // another model's listing of the same entry was faster
+    if (!root->isChildsInited()) // else another model's listing of the same entry was faster
+        onDirListed(top, childFilters(), entries);
+    updateRows(top, entries);
 }
 
 void PlacesModelPrivate::followSetting()
@@ -173,14 +177,14 @@ void PlacesModelPrivate::updateRows(const Entry &parent, const EntryList &wanted
     const QList<ModelItem *> children = before ? before->childs() : QList<ModelItem *>();
     EntryList refused;
     for (const ModelItem *child : children) {
-        if (!acceptEntry(child->entry()))
+        if (!acceptBelow(parent, child->entry()))
             refused.append(child->entry());
     }
     for (const Entry &entry : qAsConst(refused))
         removeRow(parent, entry);
     for (const Entry &entry : wanted) {
         ModelItem *const item = listedItem(parent);
-        if (item && !item->hasChildItem(entry) && acceptEntry(entry))
+        if (item && !item->hasChildItem(entry) && acceptBelow(parent, entry))
             insertItem(item, entry);
     }
 }
@@ -220,10 +224,13 @@ EntryList PlacesModelPrivate::pathTo(const Entry &entry) const
     if (!path.isEmpty())
         path.removeFirst();
     const bool isShown = !path.isEmpty() && (extras.contains(path.first()) || placeGroups().contains(path.first()))
-        && std::none_of(path.cbegin(), path.cend(), [this](const Entry &step) { return isHiddenRoot(step); });
+        && std::none_of(path.cbegin() + extras.contains(path.first()), path.cend(),
+                        [this](const Entry &step) { return isHiddenRoot(step); });
     if (isShown)
         return path;
-    return entry.isPlace() ? EntryList() : nearestPlace(entry);
+    if (entry.isPlace())
+        return extras.contains(entry) ? EntryList(entry) : EntryList();
+    return nearestPlace(entry);
 }
 
 /// The shown place that is the deepest directory above @p entry, and the way to it and from it.

@@ -30,6 +30,7 @@ public:
 
 private:
     bool isHiddenRoot(const Entry &entry) const;
+    bool acceptBelow(const Entry &parent, const Entry &entry) const;
     EntryList topLevel() const;
     void fillTopLevel();
     void followSetting();

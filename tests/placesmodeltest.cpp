@@ -195,6 +195,23 @@ private Q_SLOTS:
         QTRY_COMPARE(shown.names(), allGroups + QStringList({"extra", "gone"}));
     }
 
+    void showsThemOnTheTopLevelOnly()
+    {
+        QVERIFY(QDir::home().mkpath(".kept") && QDir::home().mkpath("plain"));
+        hide({"Trash"});
+        Shown shown;
+        const Entry trash = VFS::ptr()->entry("places:/trash");
+        shown.model.addExtraEntry(trash);
+        shown.model.addExtraEntry(VFS::ptr()->entry(QDir::homePath() + "/.kept"));
+        shown.model.rebuild(); // rows that are there from the start and those added later are the same
+        QTRY_VERIFY(shown.names().contains("Trash") && shown.names().contains(".kept"));
+        QCOMPARE(shown.model.pathIndexList(trash), QModelIndexList{shown.at("Trash")});
+        const QPersistentModelIndex home = shown.model.indexOfEntry(VFS::ptr()->homeEntry());
+        shown.model.fetchMore(home);
+        QTRY_VERIFY(shown.names(home).contains("plain"));
+        QVERIFY(!shown.names(home).contains(".kept") && !shown.names(home.parent()).contains("Trash"));
+    }
+
     void opensTheNearestPlace_data()
     {
         QTest::addColumn<QString>("path");
