@@ -30,7 +30,8 @@ CorePluginsManager *CorePluginsManager::ptr()
 
 CorePluginsManager::CorePluginsManager()
 {
-    m_ptr = this; // first of all: a plug-in that asks for the manager while it is loaded must not make another
+    if (!m_ptr)
+        m_ptr = this; // first of all: a plug-in that asks for the manager while it is loaded must not make another
 
     // One plug-in for each priority: the later one takes the place of the earlier, which stays loaded and known by name.
     QMap<int, PropsPlugin *> pluginByPriority;

@@ -19,7 +19,8 @@ Props *Props::ptr()
 
 Props::Props()
 {
-    m_ptr = this; // first of all: a plug-in that asks for the engine while it is loaded must not make another
+    if (!m_ptr)
+        m_ptr = this; // first of all: a plug-in that asks for the engine while it is loaded must not make another
     m_plugins = CorePluginsManager::ptr()->propsPlugins();
     m_propertyEnumerator = std::make_unique<PropertyEnumerator>(m_plugins);
 }

@@ -46,7 +46,8 @@ UserPropCaps *UserPropCaps::ptr()
 
 UserPropCaps::UserPropCaps()
 {
-    m_ptr = this;
+    if (!m_ptr)
+        m_ptr = this;
 }
 
 UserPropCaps::~UserPropCaps()

@@ -7,6 +7,8 @@
 #include <QSettings>
 #include <QTest>
 
+#include <memory>
+
 using namespace VeskFM;
 
 class UserPropCapsTest : public QObject
@@ -31,6 +33,10 @@ private Q_SLOTS:
         QVERIFY(!UserPropCaps::ptr()->isAccessible(1000, "x.so"));
         UserPropCaps::ptr()->setAccessibility(1000, "x.so", true);
         QVERIFY(UserPropCaps::ptr()->isAccessible(1000, "x.so"));
+
+        const UserPropCaps *const shared = UserPropCaps::ptr();
+        std::make_unique<UserPropCaps>().reset(); // somebody's own object takes nothing over
+        QCOMPARE(UserPropCaps::ptr(), shared);
     }
 };
 
