@@ -111,6 +111,8 @@ void PlacesModelPrivate::fetchChildren(ModelItem *item)
 void PlacesModelPrivate::resetItem(ModelItem *item)
 {
     const Entry entry = item ? item->entry() : Entry();
+    if (entry.isPlace())
+        lateInitItem(item); // what was mounted or unmounted gets or loses its expander
     const bool hasRows = item && (item->isChildsInited() || m_listedAgain.contains(entry));
     if (!hasRows || !entry.isDirPlace() || entry.isTrashDirPlace() || !VFS::ptr()->isEntryExists(entry)) {
         TreeModelPrivate::resetItem(item);

@@ -3,6 +3,7 @@
 
 #include "localplaces.h"
 
+#include "containerpeek.h"
 #include "localentrydata.h"
 #include "localentrywatcher.h"
 
@@ -128,8 +129,10 @@ bool LocalPlaces::mayContainContainers(const Entry &place) const
 {
     if (m_groups.contains(place))
         return !childEntries(place, nullptr).isEmpty();
-    if (place.isDirPlace() || place == m_computer)
+    if (place == m_computer)
         return true;
+    if (place.isDirPlace()) // the directory may be gone, or was never there
+        return place.localPath().isEmpty() || mayHoldContainers(place.localPath());
     const Entry network = networkEntry(place);
     return !network.isNull() && NetworkPlaces::ptr()->mayContainContainers(network);
 }

@@ -289,6 +289,10 @@ private Q_SLOTS:
         QVERIFY(StorageMount::canMount(place) && finished.isEmpty() && finished.wait());
         QTRY_COMPARE(shown.names(row), QStringList("inside")); // without having been expanded
         QCOMPARE(row.data().toString(), QString("Stick (%1)").arg(tree.path()));
+        QVERIFY(shown.model.hasChildren(row));
+        storage.present.last().mountPoint.clear();
+        Q_EMIT storage.devicesChanged();
+        QTRY_VERIFY(!shown.model.hasChildren(row)); // nor when it is unmounted again
         mount.eject(place);
         QVERIFY(finished.wait() && !finished.last().at(1).toString().isEmpty()); // cannot, and says so
         storage.present.removeLast();
@@ -323,6 +327,11 @@ private Q_SLOTS:
         QFETCH(QStringList, rows);
         setBookmarks(text);
         QTRY_COMPARE(shown.names(favorites), rows);
+        for (int row = 0; row < rows.size(); ++row) {
+            const QModelIndex favorite = shown.model.index(row, 0, favorites);
+            favorite.data(Qt::DecorationRole);
+            QCOMPARE(shown.model.hasChildren(favorite), rows.at(row) != "x"); // which leads nowhere
+        }
         QTEST(int(std::count_if(branches.begin(), branches.end(), [](const auto &row) { return row.isValid(); })),
               "open");
     }
