@@ -17,6 +17,7 @@ namespace
 {
 constexpr quint32 watchedEvents = IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO | IN_MODIFY | IN_CLOSE_WRITE
     | IN_ATTRIB | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR | IN_EXCL_UNLINK;
+constexpr quint32 endOfWatch = IN_DELETE_SELF | IN_MOVE_SELF | IN_UNMOUNT | IN_IGNORED; // of what the path led to
 constexpr size_t bufferBytes = 64 * 1024;
 
 void closeDescriptor(std::atomic<int> *descriptor)
@@ -60,6 +61,7 @@ void InotifyReader::stop()
     closeDescriptor(&m_wakeUp);
     m_watches.clear();
     m_directories.clear();
+    ++m_session;
 }
 
 void InotifyReader::wake()
@@ -70,19 +72,38 @@ void InotifyReader::wake()
 
 int InotifyReader::watch(const QByteArray &directory)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_inotify < 0)
-        return EMFILE;
-    const int id = inotify_add_watch(m_inotify, directory.constData(), watchedEvents);
-    if (id >= 0 && m_watches.value(directory, -1) == id)
+    std::unique_lock<std::mutex> lock(m_mutex);
+    m_added.wait(lock, [&] { return !m_adding.contains(directory); }); // the last look at the path must be the one kept
+    m_adding.insert(directory);
+    const int error = add(directory, &lock);
+    m_adding.remove(directory);
+    m_added.notify_all();
+    return error;
+}
+
+/// @param lock  of the mutex; given up for the system call, which may hang in a dead file system
+int InotifyReader::add(const QByteArray &directory, std::unique_lock<std::mutex> *lock)
+{
+    const int session = m_session;
+    while (m_inotify >= 0 && m_session == session) {
+        const quint64 missedEnds = m_missedEnds;
+        lock->unlock();
+        const int id = inotify_add_watch(m_inotify, directory.constData(), watchedEvents);
+        const int error = errno;
+        lock->lock();
+        // What the path led to may be gone already: look where it leads now.
+        if (m_session != session || (id >= 0 && m_missedEnds != missedEnds))
+            continue;
+        if (id >= 0 && m_watches.value(directory, -1) == id)
+            return 0;
+        forget(directory); // the path led to another directory before
+        if (id < 0)
+            return error;
+        m_watches.insert(directory, id);
+        m_directories[id].append(directory);
         return 0;
-    const int error = errno;
-    forget(directory); // the path led to another directory before
-    if (id < 0)
-        return error;
-    m_watches.insert(directory, id);
-    m_directories[id].append(directory);
-    return 0;
+    }
+    return EMFILE;
 }
 
 void InotifyReader::unwatch(const QByteArray &directory)
@@ -147,7 +168,9 @@ void InotifyReader::report(const inotify_event &event)
     QList<QByteArray> directories;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        directories = m_directories.value(event.wd); // nothing for a watch that was ended meanwhile
+        directories = m_directories.value(event.wd); // nothing for a watch that was ended meanwhile, or is being added
+        if (directories.isEmpty() && (event.mask & endOfWatch))
+            ++m_missedEnds;
         if (event.mask & IN_IGNORED) {
             m_directories.remove(event.wd);
             for (const QByteArray &directory : qAsConst(directories))

@@ -6,9 +6,11 @@
 #include <QByteArray>
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QThread>
 
 #include <atomic>
+#include <condition_variable>
 #include <mutex>
 
 struct inotify_event;
@@ -43,7 +45,8 @@ public:
     void stop(); ///< ends the thread and all watches; open() and start() begin anew
     void wake(); ///< makes the handler's next round come at once
 
-    /// Starts or renews the watch. Returns 0 or errno.
+    /// Starts or renews the watch. Returns 0 or errno. What happens in the directory before it returns may go
+    /// unreported: look at it afterwards. A dead network keeps nobody but those waiting who watch the same path.
     int watch(const QByteArray &directory);
     void unwatch(const QByteArray &directory);
     bool isWatching(const QByteArray &directory) const;
@@ -54,15 +57,20 @@ protected:
 private:
     void readEvents();
     void report(const inotify_event &event);
+    int add(const QByteArray &directory, std::unique_lock<std::mutex> *lock);
     void forget(const QByteArray &directory); // with the mutex
 
     InotifyHandler *const m_handler;
     std::atomic<int> m_inotify{-1}; // -1 also when the system has no more instances: then nothing can be watched
     std::atomic<int> m_wakeUp{-1};
     std::atomic<bool> m_stopping{false};
-    mutable std::mutex m_mutex; // guards the tables, held while a watch is added so that its first event finds it there
+    mutable std::mutex m_mutex; // guards what follows
     QHash<QByteArray, int> m_watches;
     QHash<int, QList<QByteArray>> m_directories;
+    QSet<QByteArray> m_adding; // being watched just now, not in the tables yet
+    std::condition_variable m_added;
+    quint64 m_missedEnds = 0; // of watches that are not in the tables, perhaps because they are being added
+    int m_session = 0;        // counts stops: a watch that was begun before one is none any more
 };
 
 } // namespace VeskFM

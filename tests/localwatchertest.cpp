@@ -10,6 +10,7 @@
 
 #include <fcntl.h>
 #include <sys/inotify.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -26,6 +27,16 @@ namespace
 std::atomic<bool> watchLimitReached{false};
 std::atomic<bool> queueOverflows{false};
 std::atomic<int> inotifyDescriptor{-1};
+std::atomic<bool> watchHangs{false}; // the next one, once the kernel has it
+QSemaphore watchGoesOn;
+
+/// Puts another directory in the place of @p path and has that noticed.
+void replaceUnseen(const char *path)
+{
+    int unread = rmdir(path) == 0 && mkdir(path, 0755) == 0;
+    while (unread > 0 && ioctl(inotifyDescriptor, FIONREAD, &unread) == 0)
+        std::this_thread::yield();
+}
 } // namespace
 
 // These three stand in front of the system's: what a full kernel answers cannot be had otherwise without disturbing
@@ -41,7 +52,12 @@ extern "C" Q_DECL_EXPORT int inotify_add_watch(int fd, const char *path, uint32_
         errno = ENOSPC;
         return -1;
     }
-    return int(syscall(SYS_inotify_add_watch, fd, path, mask));
+    const int id = int(syscall(SYS_inotify_add_watch, fd, path, mask));
+    if (watchHangs.exchange(false)) {
+        replaceUnseen(path);
+        watchGoesOn.acquire();
+    }
+    return id;
 }
 
 extern "C" Q_DECL_EXPORT ssize_t read(int fd, void *buffer, size_t size)
@@ -126,6 +142,7 @@ private Q_SLOTS:
     void answersOnceWhateverIsAsked();
     void tellsEachChangeOnce();
     void losesNothingWhileListing();
+    void keepsNobodyWaitingForADirectoryThatHangs();
     void followsOneDirectoryByItsPaths();
     void dropsARenamedDirectory();
     void tellsOnceThatADirectoryVanished();
@@ -241,6 +258,24 @@ void LocalWatcherTest::losesNothingWhileListing()
     QStringList onDisk = fileNames(VFS::ptr()->childs(top, VFS::PlainListing, nullptr));
     onDisk.sort();
     QTRY_COMPARE_WITH_TIMEOUT(namesInAView(), onDisk, 20000);
+}
+
+void LocalWatcherTest::keepsNobodyWaitingForADirectoryThatHangs()
+{
+    TestTree tree({"hanging/", "other/"});
+    EventLog log(tree.path());
+    watchHangs = true;
+    watcher()->listDir(tree.entry("hanging"), VFS::PlainListing);
+    QTRY_VERIFY(!watchHangs);
+    list(tree.entry("other"));
+    tree.add("other/a");
+    QVERIFY(log.tells({"+a"}));
+    bool isListed = false;
+    connect(watcher(), &EntryWatcher::dirListed, &log, [&isListed] { isListed = true; });
+    watchGoesOn.release();
+    QTRY_VERIFY(isListed);
+    tree.add("hanging/b"); // of the directory that is there now
+    QVERIFY(log.tells({"+b"}));
 }
 
 void LocalWatcherTest::followsOneDirectoryByItsPaths()
