@@ -38,10 +38,25 @@ struct Engine
             --running;
         };
     }
+    ~Engine()
+    {
+        enumerator.reset();
+        qDeleteAll(shown); // rows would have gone before the enumerator
+    }
+    PropertyDataHolder *show(const Entry &entry)
+    {
+        shown.append(enumerator->allocPropertyDataHolder(entry));
+        return shown.last();
+    }
+    void release(PropertyDataHolder *holder)
+    {
+        shown.removeOne(holder);
+        enumerator->releasePropertyDataHolder(holder);
+    }
     /// Queues the plug-in's set alone: the built-in one has nothing to say about these entries.
     PropertyDataHolder *refine(const Entry &entry)
     {
-        PropertyDataHolder *holder = enumerator->allocPropertyDataHolder(entry);
+        PropertyDataHolder *holder = show(entry);
         enumerator->updatePropertySets({holder->preparePropertySet(entry, 1, enumerator.get()), nullptr}, holder,
                                        entry);
         return holder;
@@ -57,6 +72,7 @@ struct Engine
     std::atomic<bool> overlapped{false};
     std::atomic<int> running{0}, patienceMs{0}; // how long each waits at the gate
     QSemaphore started, gate;
+    QVector<PropertyDataHolder *> shown;
     QStringList order; // the refining thread's, while there are requests
     SetRecord record;
     RecordingPlugin plugin{1, &record};
@@ -140,10 +156,12 @@ private Q_SLOTS:
         for (int kept : {5002, 4997, 0})
             QCOMPARE(enumerator.allocPropertyDataHolder(numbered(kept)), holders.at(kept));
         QCOMPARE(enumerator.idleHolderCount(), 4997);
-        enumerator.allocPropertyDataHolder(numbered(5001)); // was trimmed: a new one, none taken from the idle
+        holders[5001] = enumerator.allocPropertyDataHolder(numbered(5001)); // was trimmed: new, none of the idle
         QCOMPARE(enumerator.idleHolderCount(), 4997);
         enumerator.releaseDataHolders(-1);
         QCOMPARE(enumerator.idleHolderCount(), 0);
+        for (int kept : {5002, 5001, 4997, 0})
+            enumerator.releasePropertyDataHolder(holders.at(kept));
     }
 
     void findsEveryHolderAmongMany()
@@ -164,8 +182,10 @@ private Q_SLOTS:
             if (step % 100 == 0)
                 enumerator.releaseDataHolders(int(random.bounded(100)));
         }
-        for (PropertyDataHolder *holder : qAsConst(held))
+        for (PropertyDataHolder *holder : qAsConst(held)) {
             QCOMPARE(holder->referenceCount(), 1);
+            enumerator.releasePropertyDataHolder(holder);
+        }
     }
 
     void collectsEmblems()
@@ -232,7 +252,7 @@ private Q_SLOTS:
         PropertyDataHolder *discarded = engine.refine(numbered(3));
         enumerator.stopProcessing(); // one too many
         QCOMPARE(enumerator.pendingRequestCount(), 0);
-        enumerator.releasePropertyDataHolder(discarded);
+        engine.release(discarded);
         QCOMPARE(discarded->referenceCount(), 1); // the request's, for good
         QCOMPARE(enumerator.idleHolderCount(), 0);
 
@@ -250,7 +270,7 @@ private Q_SLOTS:
         connect(engine.enumerator.get(), &PropertyEnumerator::dataHoldersUpdated, this,
                 [&](const EntryPropertyRequestList &requests) {
                     for (const EntryPropertyRequest &request : requests)
-                        engine.enumerator->releasePropertyDataHolder(request.holder);
+                        engine.release(request.holder);
                     engine.enumerator->releaseDataHolders(0);
                     if (more-- > 0)
                         engine.refine(numbered(more));
@@ -288,7 +308,7 @@ private Q_SLOTS:
     void leavesOutAndDestroysHoldersThatNobodyShows()
     {
         Engine engine;
-        engine.enumerator->releasePropertyDataHolder(engine.refine(numbered(0)));
+        engine.release(engine.refine(numbered(0)));
         engine.enumerator->startProcessing();
         QVERIFY(engine.spy.wait());
         QCOMPARE(engine.announced().size(), 0);
@@ -299,11 +319,12 @@ private Q_SLOTS:
 
         PropertyDataHolder *shown = engine.refine(numbered(1));
         for (int i = 2; i < 5; ++i)
-            engine.enumerator->releasePropertyDataHolder(engine.refine(numbered(i)));
+            engine.release(engine.refine(numbered(i)));
         engine.enumerator->stopProcessing();
-        engine.enumerator->releasePropertyDataHolder(engine.refine(numbered(5)));
+        engine.release(engine.refine(numbered(5)));
         engine.enumerator.reset();
         QCOMPARE(engine.record.alive.load(), 1); // a row's
+        engine.shown.removeOne(shown);
         delete shown;
         QCOMPARE(engine.record.alive.load(), 0);
     }
@@ -322,7 +343,7 @@ private Q_SLOTS:
         engine.enumerator->startProcessing();
         QTRY_COMPARE(holder->referenceCount(), 1);
         QVERIFY(holder->isRefined());
-        PropertyDataHolder *synchronous = engine.enumerator->allocPropertyDataHolder(numbered(2));
+        PropertyDataHolder *synchronous = engine.show(numbered(2));
         engine.record.canRefine = true;
         synchronous->refinePropertyAtIndex(2, engine.enumerator.get());
         QVERIFY(synchronous->preparePropertySet(numbered(2), 1, engine.enumerator.get()));

@@ -18,6 +18,7 @@ env -u DISPLAY -u WAYLAND_DISPLAY -u ROOT_DISPLAY -u SUDO_USER -u XDG_CURRENT_DE
     HOME="$scratch/home" TMPDIR="$scratch/tmp" LANG=C.UTF-8 LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen \
     XDG_CONFIG_HOME="$scratch/home/.config" XDG_DATA_HOME="$scratch/home/.local/share" \
     XDG_CACHE_HOME="$scratch/home/.cache" XDG_STATE_HOME="$scratch/home/.local/state" XDG_RUNTIME_DIR="$scratch/run" \
+    LSAN_OPTIONS="suppressions=$here/lsan.supp print_suppressions=0 $LSAN_OPTIONS" \
     TSAN_OPTIONS="suppressions=$here/tsan.supp $TSAN_OPTIONS" \
     XDG_CONFIG_DIRS=/etc/xdg XDG_DATA_DIRS=/usr/local/share:/usr/share \
     dbus-run-session --config-file="$scratch/session.conf" -- "$@"
