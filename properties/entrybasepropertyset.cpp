@@ -90,14 +90,8 @@ QVariant EntryBasePropertySet::headerData(int index, int role)
 void EntryBasePropertySet::prepare(const Entry &entry)
 {
     noteDevicePixelRatio();
-    StatePtr prepared = EntryBaseState::prepared(entry);
+    replaceState(EntryBaseState::prepared(entry));
     m_madeIcon.reset();
-    QVector<StatePtr> others;
-    const SpinGuard guard(m_lock); // released before the old states, by then out here, are given up
-    m_state.swap(prepared);
-    m_others.swap(others);
-    m_isRefined = false;
-    ++m_generation;
 }
 
 QVariant EntryBasePropertySet::value(const Entry &entry, int index, int role) const
@@ -107,17 +101,17 @@ QVariant EntryBasePropertySet::value(const Entry &entry, int index, int role) co
         if (isText)
             return displayName(entry);
         if (role == Qt::ToolTipRole) {
-            const StatePtr current = stateOf(entry);
+            const StatePtr current = state();
             return current->toolTip.isEmpty() ? displayName(entry) : current->toolTip;
         }
         if (role == Qt::DecorationRole)
-            return icon(entry);
+            return icon();
     } else if (index == 1) {
         if (isText)
             return entry.isSymLink() ? translated(QT_TRANSLATE_NOOP("EntryBasePropertySet", "symbolic link"))
-                                     : mimeTypeComment(stateOf(entry)->mimeType);
+                                     : mimeTypeComment(state()->mimeType);
         if (role == Qt::ToolTipRole)
-            return entry.isSymLink() ? QString() : stateOf(entry)->mimeType;
+            return entry.isSymLink() ? QString() : state()->mimeType;
     }
     return {};
 }
@@ -139,100 +133,56 @@ void EntryBasePropertySet::updatePresentation(const Entry &entry, bool refined)
     {
         const SpinGuard guard(m_lock);
         ++m_generation; // a refinement under way goes by the old parameters: its result must not come after this one
-        m_isRefined = false; // the same holds for the states of the other entries
     }
     refine(entry, true);
 }
 
 void EntryBasePropertySet::refine(const Entry &entry, bool presentationUpdate)
 {
-    const QString place = EntryBaseState::placeOf(entry);
     for (int attempt = 0; attempt < refineAttempts; ++attempt) {
-        StatePtr before;
         quint32 generation = 0;
-        {
-            const SpinGuard guard(m_lock);
-            generation = m_generation;
-            if (const StatePtr *known = knownState(place))
-                before = *known;
-        }
-        if (!before) // the set was prepared for another entry of the holder
-            before = EntryBaseState::prepared(entry);
-        const StatePtr refined = EntryBaseState::refined(*before, entry, presentationUpdate);
-        if (publish(refined ? refined : before, generation))
+        const StatePtr before = state(&generation);
+        StatePtr refined = EntryBaseState::refined(*before, entry, presentationUpdate);
+        if (!refined)
             return;
+        const SpinGuard guard(m_lock);
+        if (m_generation == generation) {
+            m_state.swap(refined);
+            return;
+        }
     }
 }
 
-/// Takes over the outcome of a refinement. Returns false, with nothing changed, when that is outdated.
-bool EntryBasePropertySet::publish(StatePtr refined, quint32 generation)
+/// Makes @p next the state and every refinement under way outdated.
+void EntryBasePropertySet::replaceState(StatePtr next)
 {
-    QVector<StatePtr> unrefined;
+    const SpinGuard guard(m_lock); // released before the old state, now in next, is given up
+    m_state.swap(next);
+    ++m_generation;
+}
+
+EntryBasePropertySet::StatePtr EntryBasePropertySet::state(quint32 *generation) const
+{
     const SpinGuard guard(m_lock);
-    if (m_generation != generation)
-        return false;
-    if (!m_isRefined) { // nobody may come to refine the other states: they are made anew
-        m_isRefined = true;
-        m_state.swap(refined);
-        m_others.swap(unrefined);
-    } else if (StatePtr *const known = knownState(refined->place)) {
-        known->swap(refined);
-    } else {
-        m_others.append(refined);
-    }
-    return true;
-}
-
-/// The state for @p entry, made here and refined as far as the set is when there is none.
-EntryBasePropertySet::StatePtr EntryBasePropertySet::stateOf(const Entry &entry) const
-{
-    const QString place = EntryBaseState::placeOf(entry);
-    StatePtr made;
-    bool isRefined = false; // what was made
-    for (;;) {
-        {
-            const SpinGuard guard(m_lock);
-            if (m_state == EntryBaseState::empty())
-                return m_state; // never prepared: nothing is known of anything
-            if (const StatePtr *const known = knownState(place))
-                return *known;
-            if (made && isRefined == m_isRefined) {
-                m_others.append(made);
-                return made;
-            }
-            isRefined = m_isRefined;
-        }
-        made = EntryBaseState::prepared(entry);
-        if (isRefined) {
-            if (const StatePtr refined = EntryBaseState::refined(*made, entry, false))
-                made = refined;
-        }
-    }
-}
-
-/// Null when there is none. Call it, and use what it returns, with the lock held.
-EntryBasePropertySet::StatePtr *EntryBasePropertySet::knownState(const QString &place) const
-{
-    if (m_state->place == place)
-        return &m_state;
-    for (StatePtr &other : m_others) {
-        if (other->place == place)
-            return &other;
-    }
-    return nullptr;
+    if (generation)
+        *generation = m_generation;
+    return m_state;
 }
 
 QString EntryBasePropertySet::displayName(const Entry &entry) const
 {
-    const QString name = stateOf(entry)->displayName;
+    const QString name = [this] {
+        const SpinGuard guard(m_lock);
+        return m_state->displayName;
+    }();
     if (!name.isEmpty())
         return name;
     return entry.isPlace() ? entry.lastPathSection() : entry.fileName();
 }
 
-QIcon EntryBasePropertySet::icon(const Entry &entry) const
+QIcon EntryBasePropertySet::icon() const
 {
-    const StatePtr current = stateOf(entry);
+    const StatePtr current = state();
     if (current->icon.isPlain())
         return current->icon.make(); // remembered by VeskIcon
     if (!m_madeIcon || m_madeIcon->state != current)

@@ -66,7 +66,7 @@ bool isOnSlowFileSystem(const Entry &entry)
 /// Whether there is nothing in the state but a MIME type and an icon name.
 bool isPlain(const EntryBaseState &state)
 {
-    return state.place.isEmpty() && state.icon.isPlain() && state.displayName.isEmpty() && state.toolTip.isEmpty();
+    return state.icon.isPlain() && state.displayName.isEmpty() && state.toolTip.isEmpty();
 }
 
 bool looksLike(const EntryBaseState &state, const EntryBaseState &plain)
@@ -234,11 +234,6 @@ void takeFile(EntryBaseState &state, const Entry &entry)
 
 } // namespace
 
-QString EntryBaseState::placeOf(const Entry &entry)
-{
-    return entry.isPlace() ? entry.path() : QString();
-}
-
 EntryBaseStatePtr EntryBaseState::empty()
 {
     static const EntryBaseStatePtr state(new EntryBaseState);
@@ -250,7 +245,6 @@ EntryBaseStatePtr EntryBaseState::prepared(const Entry &entry)
     static const EntryBaseStatePtr plainFile = plainState(QString(), unknownIcon());
     static const EntryBaseStatePtr plainDirectory = plainState(directoryMimeType(), folderIcon());
     EntryBaseState state;
-    state.place = placeOf(entry);
     if (!entry.isPlace()) {
         if (entry.isFile()) {
             if (isDesktopFile(entry) && takeDesktopFile(state, entry.absoluteFilePath(), DesktopFile::Entry))

@@ -20,13 +20,11 @@ using EntryBaseStatePtr = QExplicitlySharedDataPointer<const EntryBaseState>;
 /// Thread: any, for all of it.
 struct EntryBaseState : public QSharedData
 {
-    QString place;       ///< the path of the place that this is about; empty for all that is no place
     QString displayName; ///< empty: the entry's own name
     QString toolTip;     ///< empty: the display name
     QString mimeType;    ///< empty until it is known
     IconRecipe icon;
 
-    static QString placeOf(const Entry &entry); ///< what place says in a state of @p entry
     static EntryBaseStatePtr empty();
     static EntryBaseStatePtr prepared(const Entry &entry);
     /// The state that follows @p before once the disk has been looked at; null when nothing is to be changed.

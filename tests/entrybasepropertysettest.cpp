@@ -6,8 +6,6 @@
 
 #include <veskfm/entrybasepropertyset.h>
 #include <veskfm/entryviewparameters.h>
-#include <veskfm/propertydataholder.h>
-#include <veskfm/propertyenumerator.h>
 #include <veskplatform/standardpaths.h>
 
 #include <QIcon>
@@ -15,9 +13,6 @@
 #include <QtTest>
 
 #include <sys/stat.h>
-
-#include <array>
-#include <thread>
 
 using namespace VeskFM;
 
@@ -57,9 +52,7 @@ private Q_SLOTS:
     void refinesFiles();
     void decidesOnThumbnails();
     void describesTypes();
-    void answersPlacesAndDirectoriesApart_data();
-    void answersPlacesAndDirectoriesApart();
-    void survivesRefinementOnAnotherThread();
+    void survivesRefinementOnThePool();
     void publishesNothingOutdated();
 
 private:
@@ -275,91 +268,23 @@ void EntryBasePropertySetTest::describesTypes()
     QCOMPARE(EntryBasePropertySet::headerData(1, Qt::ToolTipRole), "MIME type");
 }
 
-void EntryBasePropertySetTest::answersPlacesAndDirectoriesApart_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<QString>("ofPlace");
-    QTest::newRow("favorite, on the holder of the directory") << int(EntryTrait::FavoritePlace) << "%1|folder";
-    QTest::newRow("device") << int(EntryTrait::StoragePlace) << "node (%1)|drive-harddisk";
-}
-
-/// Two rows at the same time, in either order: a place, and the directory behind it.
-void EntryBasePropertySetTest::answersPlacesAndDirectoriesApart()
-{
-    QFETCH(int, kind);
-    QFETCH(QString, ofPlace);
-    TestTree tree;
-    tree.add("dir/.directory", "[Desktop Entry]\nType=Directory\nName=Special\nIcon=special\n");
-    FakeVfs vfs;
-    vfs.favorite = FavoritePlace(tree.path("dir"));
-    vfs.storage = StoragePlace(4, "", "L", false);
-    const QVector<EntryTrait> traits{EntryTrait::Exists, EntryTrait::Place, EntryTrait::DirPlace, EntryTrait(kind)};
-    const Entry entries[] = {fakeEntry("x:/node", traits, tree.path("dir")), tree.entry("dir")};
-    ofPlace.replace("%1", tree.path("dir"));
-    for (const std::array<int, 2> &order : {std::array<int, 2>{0, 1}, {1, 0}}) {
-        EntryViewParameters::ptr()->setUseMetaInfoForDirNames(true);
-        PropertyEnumerator enumerator({});
-        PropertyDataHolder *const holders[] = {enumerator.allocPropertyDataHolder(entries[0]),
-                                               enumerator.allocPropertyDataHolder(entries[1])};
-        const int references = holders[1]->referenceCount();
-        const auto check = [&](const QString &ofDirectory) {
-            for (int i : order) {
-                const auto value = [&](int role) {
-                    return holders[i]->propertyValueData(entries[i], 0, role, &enumerator);
-                };
-                QCOMPARE(value(sortKeyRole).toString() + '|' + value(Qt::DecorationRole).value<QIcon>().name(),
-                         i == 0 ? ofPlace : ofDirectory);
-            }
-        };
-        check("dir|folder");
-        for (int i : order)
-            holders[i]->delayedRefineAllProperties(entries[i], &enumerator);
-        enumerator.startProcessing();
-        for (int i : order)
-            QTRY_COMPARE(holders[i]->referenceCount(), references);
-        check("Special|special");
-        for (int i : order) { // what one row asks for is done for both
-            holders[i]->invalidate(0, &enumerator);
-            holders[i]->refineAllProperties(entries[i], &enumerator);
-            check("Special|special");
-        }
-        EntryViewParameters::ptr()->setUseMetaInfoForDirNames(false);
-        for (int i : order)
-            holders[i]->updatePresentation(entries[i]);
-        check("dir|special");
-        for (PropertyDataHolder *holder : holders)
-            enumerator.releasePropertyDataHolder(holder);
-    }
-}
-
-void EntryBasePropertySetTest::survivesRefinementOnAnotherThread()
+void EntryBasePropertySetTest::survivesRefinementOnThePool()
 {
     TestTree tree({"a.png", "text"});
     QVERIFY(QImage(16, 16, QImage::Format_RGB32).save(tree.path("a.png")));
     tree.add("x.desktop", "[Desktop Entry]\nType=Application\nName=X\nIcon=editor\nExec=x\n");
     for (const char *name : {"a.png", "text", "x.desktop"}) {
         const Entry entry = tree.entry(name);
-        const Entry place = fakeEntry("x:/node", {EntryTrait::Exists, EntryTrait::Place}, entry.localPath());
         EntryBasePropertySet set;
         set.prepare(entry);
         for (int round = 0; round < 50; ++round) {
-            std::atomic<bool> isDone{false};
-            std::thread worker([&] {
-                set.refineData(place);
-                set.refineData(entry);
-                isDone = true;
-            });
-            QString ofPlace;
+            QFuture<void> worker = QtConcurrent::run([&] { set.refineData(entry); });
             do {
                 iconOf(set, entry);
-                if (round % 3)
-                    ofPlace = look(set, place);
                 set.value(entry, 1, sortKeyRole);
                 if (round % 2)
                     set.prepare(entry);
-            } while (!isDone);
-            worker.join();
-            QCOMPARE(ofPlace, round % 3 ? "node|unknown" : "");
+            } while (!worker.isFinished());
         }
         set.refineData(entry);
         QCOMPARE(nameOf(set, entry), name == QLatin1String("x.desktop") ? "X" : name);

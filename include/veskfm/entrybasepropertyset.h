@@ -7,7 +7,6 @@
 
 #include <QExplicitlySharedDataPointer>
 #include <QIcon>
-#include <QVector>
 
 #include <atomic>
 #include <memory>
@@ -22,10 +21,6 @@ struct EntryBaseState;
 /// To prepare is to name the entry and to choose an icon by its kind: for a plain file "unknown", for a directory
 /// "folder"; places, desktop entries and the children of the home directory get their own. To refine is to look at the
 /// disk: MIME type by content, thumbnail, ".directory" file, dead links.
-///
-/// A place shares its holder, and so its set, with the directory behind it. Each gets the values that are its own: when
-/// the set was prepared for one of them, it prepares itself for the other when it is first asked about that, and
-/// refines what it prepares when it has been refined.
 ///
 /// Texts and icons follow EntryViewParameters. An icon is looked up in the theme when value() is asked for it.
 ///
@@ -53,21 +48,17 @@ private:
     using StatePtr = QExplicitlySharedDataPointer<const EntryBaseState>;
     struct MadeIcon;
 
-    StatePtr stateOf(const Entry &entry) const;
-    StatePtr *knownState(const QString &place) const;
+    StatePtr state(quint32 *generation = nullptr) const;
+    void replaceState(StatePtr next);
     void refine(const Entry &entry, bool presentationUpdate);
-    bool publish(StatePtr refined, quint32 generation);
     QString displayName(const Entry &entry) const;
-    QIcon icon(const Entry &entry) const;
+    QIcon icon() const;
 
-    // What value() is asked for is made when it is missing. m_state is never null; sets share it where nothing in it
-    // belongs to one entry alone.
-    mutable StatePtr m_state;
-    mutable QVector<StatePtr> m_others;           // of the other entries of the holder; nearly always empty
+    // m_state is never null; sets share it where nothing in it belongs to one entry alone.
+    StatePtr m_state;
     mutable std::unique_ptr<MadeIcon> m_madeIcon; // owner's thread; only for icons that belong to this entry alone
     quint32 m_generation = 0;                     // counts the calls that make refinements under way outdated
-    mutable std::atomic_flag m_lock = ATOMIC_FLAG_INIT; // guards all but m_madeIcon, held briefly
-    bool m_isRefined = false;                           // all states are, and those to come
+    mutable std::atomic_flag m_lock = ATOMIC_FLAG_INIT; // guards m_state and m_generation, held for instructions only
 };
 
 } // namespace VeskFM
