@@ -28,9 +28,9 @@ struct ArchiveNodeRecord
     bool isExecutable = false;
     qint64 size = 0;
     qint64 modifiedMs = 0; ///< since 1970; 0 when it is not told
-    qint32 target = -1; ///< of a link: the index of the node that it leads to; -1 when that is nothing
-    QByteArray name;    ///< bytes, unique in the directory and ascending
-    QByteArray link;    ///< of a link: where it leads, as it has it
+    qint32 target = -1;    ///< of a link: the index of the node that it leads to; -1 when that is nothing
+    QByteArray name;       ///< bytes, unique in the directory and ascending
+    QByteArray link;       ///< of a link: where it leads, as it has it
 };
 
 QDataStream &operator<<(QDataStream &stream, const ArchiveNodeRecord &record);
