@@ -5,6 +5,7 @@
 # classes, which no exported symbol reaches. Each folder adds its own sources to veskfmcore_objects.
 file(GLOB veskfm_headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/include/veskfm/*.h)
 add_library(veskfmcore_objects OBJECT ${veskfm_headers})
+veskfm_precompile(veskfmcore_objects Core DBus Widgets)
 target_compile_definitions(veskfmcore_objects PRIVATE VESKFMCORE_LIBRARY)
 target_include_directories(veskfmcore_objects PRIVATE ${PROJECT_BINARY_DIR}/generated)
 
