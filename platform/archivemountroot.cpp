@@ -81,6 +81,23 @@ bool ArchiveMountRoot::isBelowAny(const QByteArray &path)
     return path.startsWith(base) && isOurName(path.mid(base.size(), path.indexOf('/', base.size()) - base.size()));
 }
 
+bool ArchiveMountRoot::isAnyLeft()
+{
+    return access(baseDirectory().constData(), F_OK) == 0;
+}
+
+void ArchiveMountRoot::removeAllThatIsLeft()
+{
+    const int base = openDirectory(AT_FDCWD, baseDirectory());
+    const int turn = base < 0 ? -1 : lockIn(base, LOCK_EX);
+    if (turn >= 0)
+        removeStale(base);
+    if (turn >= 0)
+        close(turn);
+    if (base >= 0)
+        close(base);
+}
+
 ArchiveMountRoot::ArchiveMountRoot()
     : m_base(baseDirectory())
     , m_name(freshName())

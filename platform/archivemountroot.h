@@ -24,6 +24,9 @@ public:
     /// Whether a path lies in the directory of a process.
     static bool isBelowAny(const QByteArray &path);
 
+    static bool isAnyLeft();           ///< whether there may be directories of processes that are gone
+    static void removeAllThatIsLeft(); ///< removes those
+
     /// Makes the directory, if it is not there, and removes those of processes that are gone.
     bool make();
     bool isMade() const { return m_directory >= 0; }

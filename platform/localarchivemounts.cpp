@@ -53,6 +53,16 @@ LocalArchiveMounts &LocalArchiveMounts::instance()
     return *mounts;
 }
 
+void LocalArchiveMounts::removeStale()
+{
+    if (!ArchiveMountRoot::isAnyLeft())
+        return;
+    LocalArchiveMounts &mounts = instance();
+    const Lock lock(mounts.m_mutex);
+    mounts.start();
+    mounts.m_workers.start(&ArchiveMountRoot::removeAllThatIsLeft);
+}
+
 LocalArchiveMounts::LocalArchiveMounts()
     : m_rootPath(PathCodec::decode(m_root.path()))
 {

@@ -33,6 +33,9 @@ public:
 
     static LocalArchiveMounts &instance(); ///< never deleted
 
+    /// Removes, in the background, the mounts that processes have left which ended without doing so.
+    static void removeStale();
+
     /// @param path of the disk; need not exist
     QString mountPath(const QString &path) const override;
     /// Extracts the archive with its first reference, and waits until that is done or has failed. On the application's own

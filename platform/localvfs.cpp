@@ -79,6 +79,7 @@ LocalVfs::LocalVfs(QObject *parent)
     , m_watcher(new LocalEntryWatcher(this))
     , m_places(m_watcher, this)
 {
+    LocalArchiveMounts::removeStale();
 }
 
 LocalVfs::~LocalVfs()

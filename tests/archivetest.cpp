@@ -93,6 +93,9 @@ void ArchiveTest::removesMountsOfDeadProcesses() // first: only the first mount 
     QVERIFY(QFile(dead + "/mount").setPermissions(QFile::ReadOwner));
     const int lock = open(QFile::encodeName(live + "/lock").constData(), O_RDWR | O_CREAT, 0600);
     QVERIFY(flock(lock, LOCK_EX) == 0);
+    VFS::ptr();
+    QTRY_VERIFY(!QFile::exists(dead) && QFile::exists(live + "/mount")); // at the start, and later when there are more
+    QVERIFY(QDir().mkpath(dead + "/mount"));
     TestTree tree({"precious/file"});
     QVERIFY(QFile::link(tree.path("precious"), base + "3-0123456789abcdef"));
     packArchive(tree.path("a.zip"), {{"x", ""}});
