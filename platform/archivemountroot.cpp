@@ -73,6 +73,21 @@ int lockIn(int directory, int operation)
     close(lock);
     return -1;
 }
+
+/// Calls @p act with the open directory of all processes, for one process at a time: a directory that has no lock yet would
+/// pass for a stale one.
+template <typename Act> bool inTurn(const QByteArray &path, Act act)
+{
+    const int base = openDirectory(AT_FDCWD, path);
+    if (base < 0)
+        return false;
+    const int turn = lockIn(base, LOCK_EX);
+    const bool isDone = turn >= 0 && act(base);
+    if (turn >= 0)
+        close(turn);
+    close(base);
+    return isDone;
+}
 } // namespace
 
 bool ArchiveMountRoot::isBelowAny(const QByteArray &path)
@@ -88,14 +103,10 @@ bool ArchiveMountRoot::isAnyLeft()
 
 void ArchiveMountRoot::removeAllThatIsLeft()
 {
-    const int base = openDirectory(AT_FDCWD, baseDirectory());
-    const int turn = base < 0 ? -1 : lockIn(base, LOCK_EX);
-    if (turn >= 0)
+    inTurn(baseDirectory(), [](int base) {
         removeStale(base);
-    if (turn >= 0)
-        close(turn);
-    if (base >= 0)
-        close(base);
+        return true;
+    });
 }
 
 ArchiveMountRoot::ArchiveMountRoot()
@@ -116,20 +127,12 @@ bool ArchiveMountRoot::make()
 {
     if (isMade())
         return true;
-    if (!makeDirs(m_base))
-        return false;
-    const int base = openDirectory(AT_FDCWD, m_base);
-    if (base < 0)
-        return false;
-    // One process at a time: a directory that has no lock yet would pass for a stale one.
-    const int turn = lockIn(base, LOCK_EX);
-    const bool isDone = turn >= 0 && makeLocked(base);
-    if (isDone)
-        removeStale(base);
-    if (turn >= 0)
-        close(turn);
-    close(base);
-    return isDone;
+    return makeDirs(m_base) && inTurn(m_base, [this](int base) {
+               const bool isDone = makeLocked(base);
+               if (isDone)
+                   removeStale(base);
+               return isDone;
+           });
 }
 
 bool ArchiveMountRoot::makeLocked(int base)
