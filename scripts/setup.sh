@@ -26,13 +26,13 @@ build() {
     local dir=$root/build/$1
     local -a options=()
     install_missing_packages
-    # Where no compiler cache was ever filled, as on a fresh machine, precompiled headers save nearly half of the time. Both
-    # together save nothing: the cache reads each precompiled header for each source.
-    if [ ! -d "$(ccache --get-config cache_dir)" ]; then
-        options=(-D VESKFM_PRECOMPILE_HEADERS=ON -D CMAKE_CXX_COMPILER_LAUNCHER=)
-    fi
     # By content: a later configuration by ninja keeps what the presets said before.
     if [ ! -e "$dir/build.ninja" ] || ! cmp -s "$root/CMakePresets.json" "$dir/CMakePresets.used"; then
+        # Where no compiler cache was ever filled, as on a fresh machine, precompiled headers save nearly half of the time.
+        # Both together save nothing: the cache reads each precompiled header for each source.
+        if [ ! -d "$(ccache --get-config cache_dir)" ]; then
+            options=(-D VESKFM_PRECOMPILE_HEADERS=ON -D CMAKE_CXX_COMPILER_LAUNCHER=)
+        fi
         (cd "$root" && cmake --preset "$1" "${options[@]}") >&2
         cp "$root/CMakePresets.json" "$dir/CMakePresets.used"
     fi
