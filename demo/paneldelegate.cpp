@@ -14,11 +14,6 @@ PanelDelegate::PanelDelegate(PanelTree *tree)
 {
 }
 
-void PanelDelegate::setTopIsHeading(bool on)
-{
-    m_isTopHeading = on;
-}
-
 void PanelDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     QStyleOptionViewItem item = option;
@@ -53,7 +48,7 @@ void PanelDelegate::paintExpander(QPainter *painter, const QStyleOptionViewItem 
 void PanelDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
 {
     EntryDelegate::initStyleOption(option, index);
-    if (!m_isTopHeading || m_tree->treeIndexOf(index).parent().isValid())
+    if (!m_tree->isHeading(index))
         return;
     option->features &= ~QStyleOptionViewItem::HasDecoration;
     option->icon = QIcon();

@@ -7,7 +7,8 @@
 
 class PanelTree;
 
-/// Draws a row of a panel's tree: its expander, then picture and name, as far to the right as its level asks.
+/// Draws a row of a panel's tree: its expander, then picture and name, as far to the right as its level asks. A heading is
+/// in bold and has no picture: themes have none for most groups of places.
 class PanelDelegate : public EntryDelegate
 {
     Q_OBJECT
@@ -15,8 +16,6 @@ class PanelDelegate : public EntryDelegate
 public:
     explicit PanelDelegate(PanelTree *tree);
 
-    /// Draws the rows at the top as headings, in bold and without a picture: themes have none for most groups of places.
-    void setTopIsHeading(bool on);
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 protected:
@@ -27,5 +26,4 @@ private:
     void paintExpander(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
 
     const PanelTree *m_tree;
-    bool m_isTopHeading = false;
 };

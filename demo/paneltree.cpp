@@ -80,6 +80,17 @@ void PanelTree::setTopExpandable(bool on)
     viewport()->update();
 }
 
+void PanelTree::setTopIsHeading(bool on)
+{
+    m_isTopHeading = on;
+    viewport()->update();
+}
+
+bool PanelTree::isHeading(const QModelIndex &row) const
+{
+    return m_isTopHeading && m_rows->level(row) == 0;
+}
+
 void PanelTree::goTo(const QModelIndex &treeIndex)
 {
     const QModelIndex row = m_rows->mapFromSource(treeIndex);
@@ -245,8 +256,9 @@ void PanelTree::mouseReleaseEvent(QMouseEvent *event)
     const QModelIndex index = indexAt(event->pos());
     if (dragged || !itemRect(index).contains(event->pos()))
         return;
+    const Entry entry = m_model->entryByIndex(treeIndexOf(index));
     if (event->button() == Qt::MiddleButton)
-        Q_EMIT opened(entryAt(event->pos()), true);
+        Q_EMIT opened(entry, true);
     else if (event->button() == Qt::LeftButton && index == pressed)
-        Q_EMIT opened(entryAt(event->pos()), event->modifiers().testFlag(Qt::ControlModifier));
+        Q_EMIT opened(entry, event->modifiers().testFlag(Qt::ControlModifier));
 }

@@ -29,6 +29,7 @@ public:
     void expandAll(); ///< what the model has listed
     void collapse(const QModelIndex &treeIndex);
     void setTopExpandable(bool on);          ///< off: the rows at the top have no expanders. On at first
+    void setTopIsHeading(bool on);           ///< the rows at the top are drawn as headings. Off at first
     void goTo(const QModelIndex &treeIndex); ///< to the row of it, which has to be visible; scrolls there
 
     QModelIndex treeIndexOf(const QModelIndex &row) const; ///< of a row of this view
@@ -38,7 +39,8 @@ public:
 
     QModelIndex rowOf(const VeskFM::Entry &entry) const; ///< a row of this view; invalid while it is not visible
 
-    // In the viewport, of a row of this view.
+    // Of a row of this view; rectangles are in the viewport.
+    bool isHeading(const QModelIndex &row) const;
     QRect itemRect(const QModelIndex &row) const;     ///< of picture and name, with all that is free behind them
     QRect expanderRect(const QModelIndex &row) const; ///< empty for a leaf
 
@@ -63,6 +65,7 @@ private:
     VeskFM::TreeModel *m_model; // borrowed
     VisibleRows *m_rows;
     bool m_isTopExpandable = true;
+    bool m_isTopHeading = false;
     QPoint m_pressPosition;
     VeskFM::Entry m_pressed; // a favorite that may be dragged away; null otherwise
 };

@@ -6,7 +6,6 @@
 #include "containers.h"
 #include "entrydrops.h"
 #include "kiosk.h"
-#include "paneldelegate.h"
 #include "paneltree.h"
 
 #include <veskfm/placesmodel.h>
@@ -28,7 +27,7 @@ SidePanel::SidePanel(QWidget *parent)
     m_tree->setObjectName(QStringLiteral("tree"));
     m_places->setAccessibleName(tr("Places"));
     m_tree->setAccessibleName(tr("Folders"));
-    static_cast<PanelDelegate *>(m_places->itemDelegate())->setTopIsHeading(true);
+    m_places->setTopIsHeading(true);
     m_places->setTopExpandable(Settings::ptr()->isPlacesCollapsible());
     setChildrenCollapsible(false);
     adopt(m_places);

@@ -18,7 +18,8 @@ struct VisibleRows::Node
     void insert(int first, int count);
     void remove(int first, int count);
     void number(int first);
-    void collectVisible(std::vector<Node *> *rows) const;
+    void collectVisible(std::vector<Node *> *rows) const { collectVisible(0, children.size(), rows); }
+    void collectVisible(size_t firstChild, size_t endChild, std::vector<Node *> *rows) const;
 };
 
 void VisibleRows::Node::insert(int first, int count)
@@ -45,12 +46,13 @@ void VisibleRows::Node::number(int first)
         children[i]->row = static_cast<int>(i);
 }
 
-void VisibleRows::Node::collectVisible(std::vector<Node *> *rows) const
+/// Some of the children, each with all below it that is expanded.
+void VisibleRows::Node::collectVisible(size_t firstChild, size_t endChild, std::vector<Node *> *rows) const
 {
-    for (const std::unique_ptr<Node> &child : children) {
-        rows->push_back(child.get());
-        if (child->isExpanded)
-            child->collectVisible(rows);
+    for (size_t i = firstChild; i < endChild; ++i) {
+        rows->push_back(children[i].get());
+        if (children[i]->isExpanded)
+            children[i]->collectVisible(rows);
     }
 }
 
@@ -148,8 +150,7 @@ void VisibleRows::collapse(const QModelIndex &treeIndex)
         m_rows.erase(m_rows.begin() + first, m_rows.begin() + end);
         endRemoveRows();
     }
-    if (visible)
-        repaint(node);
+    repaint(node);
 }
 
 int VisibleRows::level(const QModelIndex &row) const
@@ -172,8 +173,8 @@ QModelIndex VisibleRows::mapToSource(const QModelIndex &row) const
 
 QModelIndex VisibleRows::mapFromSource(const QModelIndex &treeIndex) const
 {
-    Node *const node = treeIndex.isValid() ? nodeOf(treeIndex) : nullptr;
-    return node && isVisible(node) ? createIndex(rowOf(node), 0, node) : QModelIndex();
+    const Node *const node = nodeOf(treeIndex);
+    return node ? indexOf(node) : QModelIndex();
 }
 
 QModelIndex VisibleRows::index(int row, int column, const QModelIndex &parent) const
@@ -218,8 +219,7 @@ void VisibleRows::onInserted(const QModelIndex &parent, int first, int last)
         if (isShown)
             showRowsBelow(node, at, first, first + count);
     }
-    if (isVisible(node))
-        repaint(node);
+    repaint(node);
 }
 
 void VisibleRows::onAboutToBeRemoved(const QModelIndex &parent, int first, int last)
@@ -245,8 +245,7 @@ void VisibleRows::onRemoved(const QModelIndex &parent, int first, int last)
     node->remove(first, last - first + 1);
     if (isShown)
         endRemoveRows();
-    if (isVisible(node))
-        repaint(node);
+    repaint(node);
 }
 
 void VisibleRows::onDataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles)
@@ -280,14 +279,14 @@ bool VisibleRows::isVisible(const Node *node) const
     return !above;
 }
 
-/// The place in the list of @p node, which is visible; -1 for the root. Looked for from where it was the last time: few
+/// The place in the list of @p node, which is visible and not the root. Looked for from where it was the last time: few
 /// rows have come or gone since.
 int VisibleRows::rowOf(const Node *node) const
 {
     const int count = static_cast<int>(m_rows.size());
     const auto isAt = [&](int row) { return row >= 0 && row < count && m_rows[static_cast<size_t>(row)] == node; };
     const int start = std::min(node->lastSeen, count);
-    const int farthest = node->parent ? std::max(start, count - start) : -1;
+    const int farthest = std::max(start, count - start);
     for (int distance = 0; distance <= farthest; ++distance) {
         if (isAt(start + distance))
             return node->lastSeen = start + distance;
@@ -322,12 +321,7 @@ void VisibleRows::fill(Node *node)
 void VisibleRows::showRowsBelow(Node *node, int at, int firstChild, int endChild)
 {
     std::vector<Node *> rows;
-    for (int i = firstChild; i < endChild; ++i) {
-        Node *const child = node->children[static_cast<size_t>(i)].get();
-        rows.push_back(child);
-        if (child->isExpanded)
-            child->collectVisible(&rows);
-    }
+    node->collectVisible(static_cast<size_t>(firstChild), static_cast<size_t>(endChild), &rows);
     if (rows.empty())
         return;
     for (size_t i = 0; i < rows.size(); ++i)
@@ -337,9 +331,15 @@ void VisibleRows::showRowsBelow(Node *node, int at, int firstChild, int endChild
     endInsertRows();
 }
 
+/// Invalid for the root, and for what is not visible.
+QModelIndex VisibleRows::indexOf(const Node *node) const
+{
+    return node->parent && isVisible(node) ? createIndex(rowOf(node), 0, const_cast<Node *>(node)) : QModelIndex();
+}
+
 void VisibleRows::repaint(const Node *node)
 {
-    const int row = rowOf(node);
-    if (row >= 0)
-        Q_EMIT dataChanged(index(row, 0), index(row, 0), {Qt::DecorationRole});
+    const QModelIndex index = indexOf(node);
+    if (index.isValid())
+        Q_EMIT dataChanged(index, index, {Qt::DecorationRole});
 }

@@ -59,6 +59,7 @@ private:
     void fill(Node *node);
     void fillAll(Node *node);
     void showRowsBelow(Node *node, int at, int firstChild, int endChild);
+    QModelIndex indexOf(const Node *node) const;
     void repaint(const Node *node);
 
     const std::unique_ptr<Node> m_root;
